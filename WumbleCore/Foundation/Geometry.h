@@ -1,0 +1,41 @@
+#pragma once
+
+namespace wumble {
+
+/// Plain geometry in points. Which way y grows is said where a value is used.
+struct Point {
+    double x = 0;
+    double y = 0;
+
+    bool operator==(const Point&) const = default;
+};
+
+struct Size {
+    double width = 0;
+    double height = 0;
+
+    bool operator==(const Size&) const = default;
+};
+
+struct Rect {
+    double x = 0;
+    double y = 0;
+    double width = 0;
+    double height = 0;
+
+    bool operator==(const Rect&) const = default;
+
+    constexpr double right() const { return x + width; }
+    constexpr double farY() const { return y + height; }
+};
+
+/// The area that both rectangles cover, 0 where they don't meet.
+constexpr double commonArea(const Rect& a, const Rect& b) {
+    const double left = a.x > b.x ? a.x : b.x;
+    const double right = a.right() < b.right() ? a.right() : b.right();
+    const double near = a.y > b.y ? a.y : b.y;
+    const double far = a.farY() < b.farY() ? a.farY() : b.farY();
+    return right > left && far > near ? (right - left) * (far - near) : 0;
+}
+
+} // namespace wumble

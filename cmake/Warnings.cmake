@@ -1,0 +1,9 @@
+add_library(QuietlarkWarnings INTERFACE)
+target_compile_options(QuietlarkWarnings INTERFACE
+  -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+  # A record is made by naming the fields that differ from their initialisers.
+  -Wno-missing-field-initializers)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # GCC 12 sees the unused alternatives of a variant as uninitialised reads.
+  target_compile_options(QuietlarkWarnings INTERFACE -Wno-maybe-uninitialized)
+endif()
