@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include <absl/time/civil_time.h>
+#include <absl/time/time.h>
 #include <unicode/calendar.h>
 #include <unicode/datefmt.h>
 #include <unicode/smpdtfmt.h>
-#include <unicode/timezone.h>
 
 namespace wumble {
 
@@ -14,15 +15,11 @@ namespace {
 
 constexpr double secondsPerDay = 86400;
 constexpr double millisecondsPerSecond = 1000;
+constexpr int secondsPerMinute = 60;
 
 /// Clocks change on a quarter of an hour almost everywhere; where they don't, the block is asked for anew
 /// each time.
 constexpr double blockLength = 900;
-
-icu::UnicodeString unicode(std::string_view text) {
-    return icu::UnicodeString::fromUTF8(
-        icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())));
-}
 
 double heldWithinYears(Date date) {
     const double seconds = date.secondsSinceEpoch;
@@ -45,19 +42,27 @@ int localeFirstWeekday(const icu::Locale& locale) {
     return U_SUCCESS(status) ? static_cast<int>(calendar->getFirstDayOfWeek(status)) : monday;
 }
 
+/// The wall clock is handed over as if it stood in UTC, so that no other rules come into play.
+std::string worded(icu::DateFormat& format, double localSeconds) {
+    format.setTimeZone(*icu::TimeZone::getGMT());
+    icu::UnicodeString text;
+    format.format(localSeconds * millisecondsPerSecond, text);
+    std::string result;
+    return text.toUTF8String(result);
+}
+
 } // namespace
 
+/// The rules of the clock come from the system's own time zone files, which are kept up to date long after a
+/// release; those inside ICU are as old as the library. ICU has the words.
 struct Calendar::Zone {
-    std::unique_ptr<const icu::TimeZone> timeZone;
+    absl::TimeZone timeZone;
     icu::Locale locale;
 
-    /// Seconds to add to UTC for the wall clock, straight from the time zone's rules.
+    /// Seconds to add to UTC for the wall clock.
     double secondsFromUTC(double secondsSinceEpoch) const {
-        std::int32_t standard = 0;
-        std::int32_t daylight = 0;
-        UErrorCode status = U_ZERO_ERROR;
-        timeZone->getOffset(secondsSinceEpoch * millisecondsPerSecond, 0, standard, daylight, status);
-        return (standard + daylight) / millisecondsPerSecond;
+        return timeZone.At(absl::FromUnixSeconds(static_cast<std::int64_t>(std::floor(secondsSinceEpoch))))
+            .offset;
     }
 };
 
@@ -69,8 +74,7 @@ Calendar::Calendar(std::shared_ptr<const Zone> zone, int firstWeekday)
 std::optional<Calendar> Calendar::make(std::string_view timeZone, std::string_view locale,
                                        std::optional<int> firstWeekday) {
     auto zone = std::make_shared<Zone>();
-    zone->timeZone.reset(icu::TimeZone::createTimeZone(unicode(timeZone)));
-    if (*zone->timeZone == icu::TimeZone::getUnknown()) {
+    if (timeZone.empty() || !absl::LoadTimeZone(std::string(timeZone), &zone->timeZone)) {
         return std::nullopt;
     }
     zone->locale = icu::Locale::createFromName(std::string(locale).c_str());
@@ -86,7 +90,7 @@ double Calendar::secondsFromUTC(Date date) const {
     }
     const double offset = zone_->secondsFromUTC(second);
     const double blockStart = block * blockLength;
-    const double blockEnd = blockStart + blockLength - 1 / millisecondsPerSecond;
+    const double blockEnd = blockStart + blockLength - 1;
     if (zone_->secondsFromUTC(blockStart) == offset && zone_->secondsFromUTC(blockEnd) == offset) {
         remembered_.block = block;
         remembered_.secondsFromUTC = offset;
@@ -99,25 +103,6 @@ double Calendar::localSeconds(Date date) const {
     return held.secondsSinceEpoch + secondsFromUTC(held);
 }
 
-/// Looks at the offsets a day before and a day after: whichever of them leads to a moment that really shows
-/// this time is right, and where none does the clock jumped over it.
-Date Calendar::momentAtLocal(double localSeconds) const {
-    const double before = zone_->secondsFromUTC(localSeconds - secondsPerDay);
-    const double after = zone_->secondsFromUTC(localSeconds + secondsPerDay);
-    double early = localSeconds - std::max(before, after);
-    double late = localSeconds - std::min(before, after);
-    for (const double candidate : {early, late}) {
-        if (candidate + zone_->secondsFromUTC(candidate) == localSeconds) {
-            return {candidate};
-        }
-    }
-    while (late - early > 1) {
-        const double middle = std::floor((early + late) / 2);
-        (zone_->secondsFromUTC(middle) == before ? early : late) = middle;
-    }
-    return {late};
-}
-
 CivilDay Calendar::day(Date date) const { return civilDay(localSeconds(date)); }
 
 int Calendar::weekday(CivilDay day) { return static_cast<int>(std::chrono::weekday{day}.c_encoding()) + 1; }
@@ -126,7 +111,7 @@ int Calendar::weekday(Date date) const { return weekday(day(date)); }
 
 int Calendar::minuteOfDay(Date date) const {
     const double local = localSeconds(date);
-    return static_cast<int>((local - seconds(civilDay(local))) / 60);
+    return static_cast<int>((local - seconds(civilDay(local))) / secondsPerMinute);
 }
 
 Date Calendar::startOfDay(Date date) const {
@@ -138,7 +123,7 @@ Date Calendar::startOfDay(Date date) const {
     return remembered_.startOfDay;
 }
 
-Date Calendar::startOfDay(CivilDay day) const { return momentAtLocal(seconds(day)); }
+Date Calendar::startOfDay(CivilDay day) const { return moment(day, 0); }
 
 bool Calendar::hasDay(CivilDay day) const { return this->day(startOfDay(day)) == day; }
 
@@ -159,27 +144,22 @@ DateInterval Calendar::monthInterval(Date date) const {
 }
 
 Date Calendar::moment(CivilDay day, int minute) const {
-    return momentAtLocal(seconds(day) + std::clamp(minute, 0, 1440) * 60.0);
+    const absl::CivilSecond midnight = absl::CivilDay(1970, 1, 1) + day.time_since_epoch().count();
+    const auto found = zone_->timeZone.At(midnight + std::clamp(minute, 0, 1440) * secondsPerMinute);
+    const bool isSkipped = found.kind == absl::TimeZone::TimeInfo::SKIPPED;
+    return {static_cast<double>(absl::ToUnixSeconds(isSkipped ? found.trans : found.pre))};
 }
 
 std::string Calendar::shortTime(Date date) const {
     const std::unique_ptr<icu::DateFormat> format(
         icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, zone_->locale));
-    format->setTimeZone(*zone_->timeZone);
-    icu::UnicodeString text;
-    format->format(heldWithinYears(date) * millisecondsPerSecond, text);
-    std::string result;
-    return text.toUTF8String(result);
+    return worded(*format, localSeconds(date));
 }
 
 std::string Calendar::weekdayName(Date date) const {
     UErrorCode status = U_ZERO_ERROR;
     icu::SimpleDateFormat format(icu::UnicodeString(u"cccc"), zone_->locale, status);
-    format.setTimeZone(*zone_->timeZone);
-    icu::UnicodeString text;
-    format.format(heldWithinYears(date) * millisecondsPerSecond, text);
-    std::string result;
-    return text.toUTF8String(result);
+    return worded(format, localSeconds(date));
 }
 
 } // namespace wumble

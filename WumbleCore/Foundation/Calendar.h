@@ -78,7 +78,6 @@ private:
 
     double secondsFromUTC(Date date) const;
     double localSeconds(Date date) const;
-    Date momentAtLocal(double localSeconds) const;
 
     /// A stretch of time without a change of clocks, and the day last asked for.
     struct Remembered {
