@@ -160,6 +160,7 @@ private:
     bool startsOfficeHours(Date candidate, Date after, const Calendar& calendar) const;
 };
 
+// NOLINTNEXTLINE(readability-function-size): one line a setting.
 void WumbleSettings::visitJsonFields(auto&& visitor) {
     visitor("workInterval", &WumbleSettings::workInterval);
     visitor("shortBreakDuration", &WumbleSettings::shortBreakDuration);

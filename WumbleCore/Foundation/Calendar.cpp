@@ -15,7 +15,7 @@ namespace {
 
 constexpr double secondsPerDay = 86400;
 constexpr double millisecondsPerSecond = 1000;
-constexpr int secondsPerMinute = 60;
+constexpr std::int64_t secondsPerMinute = 60;
 
 /// Clocks change on a quarter of an hour almost everywhere; where they don't, the block is asked for anew
 /// each time.
@@ -39,7 +39,7 @@ int localeFirstWeekday(const icu::Locale& locale) {
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(locale, status));
     const int monday = 2;
-    return U_SUCCESS(status) ? static_cast<int>(calendar->getFirstDayOfWeek(status)) : monday;
+    return U_SUCCESS(status) != 0 ? static_cast<int>(calendar->getFirstDayOfWeek(status)) : monday;
 }
 
 /// The wall clock is handed over as if it stood in UTC, so that no other rules come into play.
@@ -111,7 +111,7 @@ int Calendar::weekday(Date date) const { return weekday(day(date)); }
 
 int Calendar::minuteOfDay(Date date) const {
     const double local = localSeconds(date);
-    return static_cast<int>((local - seconds(civilDay(local))) / secondsPerMinute);
+    return static_cast<int>((local - seconds(civilDay(local))) / static_cast<double>(secondsPerMinute));
 }
 
 Date Calendar::startOfDay(Date date) const {
