@@ -12,7 +12,7 @@ Counter spacedCount(double spacing, double span) {
     if (!(spacing > 0) || !(spacing < span)) {
         return 0;
     }
-    const double most = static_cast<double>(NudgePlan::mostNudges);
+    const auto most = static_cast<double>(NudgePlan::mostNudges);
     auto count = static_cast<Counter>(std::min(std::ceil(span / spacing), most));
     while (spacing * static_cast<double>(count) >= span) {
         --count;
