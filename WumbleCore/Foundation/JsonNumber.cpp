@@ -2,13 +2,10 @@
 
 #include <array>
 #include <charconv>
-#include <cmath>
 
 namespace wumble {
 
 namespace {
-
-constexpr double largestExactWhole = 9007199254740992.0;
 
 /// `from_chars` reports too small and too large alike.
 bool isTooSmall(std::string_view digits) {
@@ -48,11 +45,8 @@ bool isNumberOutOfRange(std::string_view digits) {
 void appendJsonNumber(std::string& text, Counter number) { appendDigits(text, number); }
 
 void appendJsonNumber(std::string& text, double number) {
-    if (number == std::trunc(number) && std::abs(number) <= largestExactWhole) {
-        appendDigits(text, static_cast<Counter>(number));
-    } else {
-        appendDigits(text, number);
-    }
+    constexpr double unsignedZero = 0;
+    appendDigits(text, number == 0 ? unsignedZero : number);
 }
 
 } // namespace wumble

@@ -12,8 +12,7 @@ Json jsonNumber(std::string_view digits);
 /// Whether this reads as a number too large for any double; one too small for a double of its own reads as 0.
 bool isNumberOutOfRange(std::string_view digits);
 
-/// The shortest digits that read back equal; whole numbers without fraction and exponent as far as every
-/// whole number has a double of its own.
+/// The shortest digits that read back equal; a whole number has no ".0", and zero has no sign.
 void appendJsonNumber(std::string& text, double number);
 void appendJsonNumber(std::string& text, Counter number);
 

@@ -58,18 +58,11 @@ std::filesystem::path behindLinks(const std::filesystem::path& path) {
     return error ? path : target;
 }
 
-bool endsInsideALine(const FileDescriptor& file, std::size_t size) {
-    char last = '\n';
-    return size > 0 && ::pread(file.get(), &last, 1, static_cast<off_t>(size - 1)) == 1 && last != '\n';
+FileDescriptor openForReading(const std::filesystem::path& path) {
+    return FileDescriptor(::open(path.c_str(), O_RDONLY | neverWait));
 }
 
-} // namespace
-
-bool readInPieces(const std::filesystem::path& path, const std::function<void(std::string_view)>& piece) {
-    const FileDescriptor file(::open(path.c_str(), O_RDONLY | neverWait));
-    if (!regularFileSize(file)) {
-        return false;
-    }
+bool readOn(const FileDescriptor& file, const std::function<void(std::string_view)>& piece) {
     std::array<char, std::size_t{1} << 16> buffer{};
     for (;;) {
         const auto count = ::read(file.get(), buffer.data(), buffer.size());
@@ -83,16 +76,29 @@ bool readInPieces(const std::filesystem::path& path, const std::function<void(st
     }
 }
 
+bool endsInsideALine(const FileDescriptor& file, std::size_t size) {
+    char last = '\n';
+    return size > 0 && ::pread(file.get(), &last, 1, static_cast<off_t>(size - 1)) == 1 && last != '\n';
+}
+
+} // namespace
+
+bool readInPieces(const std::filesystem::path& path, const std::function<void(std::string_view)>& piece) {
+    const FileDescriptor file = openForReading(path);
+    return regularFileSize(file) && readOn(file, piece);
+}
+
 std::optional<std::string> readWholeFile(const std::filesystem::path& path) {
+    const FileDescriptor file = openForReading(path);
+    const auto size = regularFileSize(file);
+    if (!size || *size > largestWholeFile) {
+        return std::nullopt;
+    }
     std::string bytes;
-    bool isTooLarge = false;
-    const bool isComplete = readInPieces(path, [&](std::string_view piece) {
-        isTooLarge = isTooLarge || bytes.size() + piece.size() > largestWholeFile;
-        if (!isTooLarge) {
-            bytes += piece;
-        }
-    });
-    return isComplete && !isTooLarge ? std::optional(std::move(bytes)) : std::nullopt;
+    if (!readOn(file, [&](std::string_view piece) { bytes += piece; })) {
+        return std::nullopt;
+    }
+    return bytes;
 }
 
 bool replaceWholeFile(const std::filesystem::path& path, std::string_view bytes) {
