@@ -75,6 +75,16 @@ private:
     Reply summaries(Arguments& arguments);
 
     Reply choreography(Arguments& arguments);
+    Reply jiggle(Arguments& arguments);
+    Reply svg(Arguments& arguments);
+    Reply notePose(Arguments& arguments);
+
+    Reply game(Arguments& arguments);
+    Reply displayName(Arguments& arguments);
+    Reply fillsDisplay(Arguments& arguments);
+    Reply playback(Arguments& arguments);
+    Reply appBundle(Arguments& arguments);
+    Reply capturers(Arguments& arguments);
 
     BreakEngine makeEngine(WumbleSettings settings, Date now);
 
