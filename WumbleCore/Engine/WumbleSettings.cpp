@@ -97,7 +97,8 @@ void WumbleSettings::fitMoveToEyeBreaks(const std::optional<WumbleSettings>& old
     const bool keepsMultiple = old && old->longBreakEvery() && workInterval != old->workInterval &&
                                moveInterval == old->moveInterval;
     if (keepsMultiple) {
-        moveInterval = workInterval * std::round(old->moveInterval / old->workInterval);
+        const double kept = workInterval * std::round(old->moveInterval / old->workInterval);
+        moveInterval = std::isfinite(kept) ? kept : moveInterval;
     }
     moveInterval = fittedMove(moveInterval, workInterval);
 }

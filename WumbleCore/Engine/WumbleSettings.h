@@ -129,7 +129,7 @@ struct WumbleSettings {
     static double fittedMove(double move, double eye);
 
     /// Keeps `moveInterval` a whole multiple of `workInterval`, the same one as in `old` where just
-    /// `workInterval` was changed.
+    /// `workInterval` was changed and that multiple is a number.
     void fitMoveToEyeBreaks(const std::optional<WumbleSettings>& old);
 
     /// Keeps nudges closer together than the long breaks they stand between, or turns them off with 0.
