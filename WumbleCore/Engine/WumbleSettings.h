@@ -110,6 +110,9 @@ struct WumbleSettings {
     /// wrong type.
     std::optional<WumbleSettings> overlaid(const Json::Object& keys) const;
 
+    /// These settings with no length beyond `longestLength`.
+    WumbleSettings withHeldLengths() const;
+
     /// Only long breaks run, with nudges between them.
     bool nudgesOnly() const { return longBreaksEnabled && !eyeBreaksEnabled; }
 

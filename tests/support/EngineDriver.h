@@ -4,6 +4,8 @@
 #include "WumbleCore/Foundation/Match.h"
 #include "tests/support/Dates.h"
 
+#include <gtest/gtest.h>
+
 #include <sstream>
 
 namespace wumble::test {
@@ -28,15 +30,30 @@ public:
         return told(engine.tick(signals));
     }
 
+    Told tickOnce() { return tick(); }
+
     /// A tick each second for so long.
     Told run(double seconds) {
         Told all;
         for (const Date end = now() + seconds; now() < end;) {
-            all += tick();
+            const Told more = tick();
+            all.insert(all.end(), more.begin(), more.end());
         }
         return all;
     }
 
+    Told startBreak(std::optional<BreakKind> kind = {}, std::optional<double> duration = {}) {
+        return told(engine.startBreak(kind, duration, now()));
+    }
+    Told startPreview(double duration) { return told(engine.startPreview(duration, now())); }
+    Told endBreak() { return told(engine.endBreak(now())); }
+    Told snooze(double by) { return told(engine.snooze(by, now())); }
+    Told snoozeLong() { return snooze(BreakEngine::longSnooze); }
+    Told skip() { return told(engine.skip(now(), BreakEngine::SkipRule::asAllowed)); }
+    Told forceSkip() { return told(engine.skip(now(), BreakEngine::SkipRule::forced)); }
+    void pause(std::optional<Date> until = {}) { engine.pause(until, now()); }
+
+private:
     Told told(const EngineEvents& events) const {
         Told all;
         for (const auto& event : events) {
@@ -44,9 +61,6 @@ public:
         }
         return all;
     }
-
-private:
-    friend void operator+=(Told& all, Told more) { all.insert(all.end(), more.begin(), more.end()); }
 
     template <class... Parts> static std::string line(const Parts&... parts) {
         std::ostringstream text;

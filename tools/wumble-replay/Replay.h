@@ -76,7 +76,7 @@ private:
 
     Reply choreography(Arguments& arguments);
 
-    BreakEngine makeEngine(WumbleSettings settings, Date now);
+    BreakEngine makeEngine(const WumbleSettings& settings, Date now);
 
     /// Carries out `operation(now)` on the engine once the keys are known to be right.
     template <class Operation> Reply operate(Arguments& arguments, Operation operation);
