@@ -86,7 +86,7 @@ private:
     Reply appBundle(Arguments& arguments);
     Reply capturers(Arguments& arguments);
 
-    BreakEngine makeEngine(WumbleSettings settings, Date now);
+    BreakEngine makeEngine(const WumbleSettings& settings, Date now);
 
     /// Carries out `operation(now)` on the engine once the keys are known to be right.
     template <class Operation> Reply operate(Arguments& arguments, Operation operation);
