@@ -29,6 +29,14 @@ std::string lowerCased(std::string_view text) {
     return lower;
 }
 
+std::string capitalized(std::string_view text) {
+    std::string result(text);
+    if (!result.empty() && result.front() >= 'a' && result.front() <= 'z') {
+        result.front() = static_cast<char>(result.front() - 'a' + 'A');
+    }
+    return result;
+}
+
 std::string_view trimmed(std::string_view text) {
     while (const auto size = sizeOfSpace([&](auto space) { return text.starts_with(space); })) {
         text.remove_prefix(size);

@@ -8,6 +8,9 @@ namespace wumble {
 /// ASCII letters in lower case, everything else as it stands: enough to look for identifiers and path parts.
 std::string lowerCased(std::string_view text);
 
+/// With an ASCII first letter in upper case.
+std::string capitalized(std::string_view text);
+
 /// Without the white space at both ends, that of Unicode included (a name may begin with a no-break space).
 std::string_view trimmed(std::string_view text);
 
