@@ -43,5 +43,6 @@ struct WumbleTraits {
         visitor("keepsake", &WumbleTraits::keepsake);
     }
 };
+static_assert(sizeof(WumbleTraits) == 6);
 
 } // namespace wumble
