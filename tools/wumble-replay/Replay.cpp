@@ -48,6 +48,7 @@ const std::vector<Replay::Command>& Replay::commands() {
         {"nudgeTimes", "span", &Replay::nudgeTimes, Needs::engine},
         {"history", "text", &Replay::history, Needs::nothing},
         {"summaries", "", &Replay::summaries, Needs::nothing},
+        {"seeded", "seed", &Replay::seeded, Needs::nothing},
         {"choreography", "t", &Replay::choreography, Needs::nothing},
         {"jiggle", "preset (wumble, stiff), history ([[x,y],...], newest first)", &Replay::jiggle,
          Needs::nothing},

@@ -74,6 +74,8 @@ private:
     Reply history(Arguments& arguments);
     Reply summaries(Arguments& arguments);
 
+    Reply seeded(Arguments& arguments);
+
     Reply choreography(Arguments& arguments);
     Reply jiggle(Arguments& arguments);
     Reply svg(Arguments& arguments);
