@@ -6,13 +6,15 @@
 
 namespace wumble {
 
-/// The value of a number that already has the form of JSON and fits a double.
+/// Whether this is a number in the form of JSON.
+bool isJsonNumber(std::string_view text);
+
+/// The value of a number that has the form of JSON. One that no double can hold is an empty object, one too
+/// small for a double of its own is 0.
 Json jsonNumber(std::string_view digits);
 
-/// Whether this reads as a number too large for any double; one too small for a double of its own reads as 0.
-bool isNumberOutOfRange(std::string_view digits);
-
-/// The shortest digits that read back equal; a whole number has no ".0", and zero has no sign.
+/// The shortest digits that read back equal; whole numbers without fraction and exponent as far as every
+/// whole number has a double of its own, and zero without a sign.
 void appendJsonNumber(std::string& text, double number);
 void appendJsonNumber(std::string& text, Counter number);
 

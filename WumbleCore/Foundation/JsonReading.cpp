@@ -88,9 +88,9 @@ private:
     std::vector<std::string> keys_;
 };
 
-/// The reader gives a whole text up for one number that no double can hold. Written as an empty object it
-/// fails just the field it stands in.
-std::string withoutNumbersOutOfRange(std::string_view text) {
+/// The reader gives a whole text up for one number that no double can hold, and for some that are only spelled
+/// at length. Written as what they mean to us they fail no more than the field they stand in.
+std::string withNumbersSpelledAnew(std::string_view text) {
     constexpr std::string_view numberCharacters = "+-.0123456789Ee";
     std::string result;
     bool isInString = false;
@@ -98,7 +98,7 @@ std::string withoutNumbersOutOfRange(std::string_view text) {
         const auto length = text.substr(place).find_first_not_of(numberCharacters);
         const auto word = text.substr(place, length);
         if (!isInString && !word.empty()) {
-            result += isNumberOutOfRange(word) ? "{}" : word;
+            result += isJsonNumber(word) ? jsonNumber(word).text().value() : word;
             place += word.size();
             continue;
         }
@@ -122,7 +122,7 @@ template <class Handler> rapidjson::ParseResult parseInto(Handler& handler, std:
         return result;
     }
     handler.restart();
-    return parse(handler, withoutNumbersOutOfRange(text));
+    return parse(handler, withNumbersSpelledAnew(text));
 }
 
 } // namespace

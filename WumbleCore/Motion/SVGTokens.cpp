@@ -39,8 +39,8 @@ void appendNumber(std::vector<Token>& tokens, std::string_view text) {
     double number = 0;
     const char* const end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, number);
-    const bool fits =
-        read.ec == std::errc{} || (read.ec == std::errc::result_out_of_range && !isNumberOutOfRange(text));
+    const bool isTooFine = read.ec == std::errc::result_out_of_range && jsonNumber(text).number() == 0.0;
+    const bool fits = read.ec == std::errc{} || isTooFine;
     if (read.ptr == end && fits) {
         tokens.emplace_back(number);
     }

@@ -75,8 +75,7 @@ private:
             [](const event::HeadsUp& e) { return line("headsUp ", enumText(e.kind), " in ", e.dueIn); },
             [](const event::BreakStarted& e) { return line("breakStarted ", breakText(e.activeBreak)); },
             [](const event::BreakAwaitingEnd& e) {
-                return line("breakAwaitingEnd ", breakText(e.activeBreak),
-                            e.activeBreak.awaitingEnd ? "" : " (not said)");
+                return line("breakAwaitingEnd ", breakText(e.activeBreak));
             },
             [](const event::BreakFinished& e) { return line("breakFinished ", recordText(e.record)); },
             [](const event::PreviewEnded& e) {

@@ -56,35 +56,6 @@ TEST(BreakLifecycle, carriesTheWorkBeforeABreakIntoTheLongBreakCycle) {
     EXPECT_EQ(shortCycle.engine.moveCarry(), 0);
 }
 
-TEST(BreakLifecycle, allowsSnoozesUpToTheTighterOfBothLimits) {
-    struct Case {
-        Limit perBreak, perDay;
-        std::vector<std::optional<Counter>> left; // before each snooze
-    };
-    const Case cases[] = {{Limit::unlimited(), Limit::unlimited(), {{}, {}, {}, {}}},
-                          {Limit::count(2), Limit::unlimited(), {2, 1, 0}},
-                          {Limit::unlimited(), Limit::count(1), {1, 0}},
-                          {Limit::count(3), Limit::count(1), {1, 0}},
-                          {Limit::count(-1), Limit::unlimited(), {0}}};
-    for (const auto& [perBreak, perDay, left] : cases) {
-        auto driver = onBreak({.snoozesPerBreak = perBreak, .snoozesPerDay = perDay});
-        for (const auto& remaining : left) {
-            EXPECT_EQ(driver.engine.snoozesRemaining(), remaining);
-            EXPECT_EQ(driver.snooze(300).empty(), remaining == 0);
-        }
-    }
-}
-
-TEST(BreakLifecycle, movesABreakThatIsNotYetDueByTheWholeSnooze) {
-    EngineDriver driver;
-    driver.run(100);
-    EXPECT_EQ(driver.snooze(300), Told{"snoozed 300"});
-    EXPECT_EQ(driver.engine.workElapsed(), -200);
-    auto early = onBreak({}, 100);
-    EXPECT_EQ(early.snooze(5000), Told{"snoozed 5000 from break"});
-    EXPECT_EQ(early.engine.workElapsed(), 0);
-}
-
 TEST(BreakLifecycle, aSnoozeShorterThanTheLeadBringsNoSecondHeadsUp) {
     for (const double by : {60, 61}) {
         EngineDriver driver({.headsUp = HeadsUpMode::all, .nudgesBetween = 0});
@@ -93,15 +64,9 @@ TEST(BreakLifecycle, aSnoozeShorterThanTheLeadBringsNoSecondHeadsUp) {
         EXPECT_EQ(driver.run(1), by > 60 ? Told{"headsUp short in 60"} : Told());
         EXPECT_EQ(driver.run(by - 1), Told{"breakStarted short 45 snoozed 1"});
     }
-}
-
-TEST(BreakLifecycle, takesASnoozeOrASkipAfterTheRestForItsEnd) {
-    for (const auto late : {&EngineDriver::snoozeLong, &EngineDriver::skip}) {
-        auto driver = onBreak({.enforcement = Enforcement::hardcore, .snoozesPerBreak = Limit::count(0)});
-        driver.signals.now = driver.now() + 50;
-        EXPECT_EQ((driver.*late)(), Told{"breakFinished short completed 50 of 45"});
-        EXPECT_EQ(driver.engine.snoozesToday(), 0);
-    }
+    auto far = onBreak({});
+    EXPECT_EQ(far.snooze(5000), Told{"snoozed 5000 from break"});
+    EXPECT_EQ(far.engine.workElapsed(), 0); // no further than a whole stretch
 }
 
 TEST(BreakLifecycle, letsABreakBeSkippedAsFirmlyAsThePersonWishes) {
@@ -122,6 +87,9 @@ TEST(BreakLifecycle, letsABreakBeSkippedAsFirmlyAsThePersonWishes) {
         driver.forceSkip(); // whoever isn't asked may always
         EXPECT_FALSE(driver.engine.activeBreak());
     }
+    auto rested = onBreak({.enforcement = Enforcement::hardcore});
+    rested.signals.now = rested.now() + 50;
+    EXPECT_EQ(rested.skip(), Told{"breakFinished short completed 50 of 45"});
 }
 
 TEST(BreakLifecycle, skipsTheNextBreakInAdvanceAsOftenAsADayAllows) {

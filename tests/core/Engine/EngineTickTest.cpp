@@ -3,7 +3,6 @@
 namespace wumble {
 namespace {
 
-using test::at;
 using test::EngineDriver;
 using test::Told;
 
@@ -35,22 +34,6 @@ TEST(EngineTick, letsAQuickBreakGiveWayToALongOneNearby) {
     }
 }
 
-TEST(EngineTick, takesTheDayFromQuickBreaksToTheLongOne) {
-    EngineDriver driver;
-    EXPECT_EQ(driver.run(1200), (Told{"wellness blink", "breakStarted short 45"}));
-    EXPECT_EQ(driver.run(45), (Told{"breakFinished short completed 45 of 45"}));
-    EXPECT_EQ(driver.run(1245),
-              (Told{"wellness posture", "breakStarted short 45", "breakFinished short completed 45 of 45"}));
-    EXPECT_EQ(driver.engine.moveElapsed(), 2400);
-    EXPECT_EQ(driver.run(1139), (Told{"wellness breath"}));
-    EXPECT_EQ(driver.tick(), (Told{"headsUp long in 60"}));
-    EXPECT_EQ(driver.run(60), (Told{"breakStarted long 300"}));
-    EXPECT_EQ(driver.engine.overdue(), 0);
-    EXPECT_EQ(driver.run(300), (Told{"breakFinished long completed 300 of 300"}));
-    EXPECT_EQ(driver.engine.moveElapsed(), 0);
-    EXPECT_EQ(driver.engine.breakTarget(), 1200);
-}
-
 TEST(EngineTick, tellsWhatHappensAtOnceInTheOrderOfHandling) {
     EngineDriver driver({.workInterval = 8,
                          .moveInterval = 8,
@@ -74,43 +57,6 @@ TEST(EngineTick, recordsABreakThatEndedInSleepAtItsPlannedEnd) {
     EXPECT_EQ(driver.tick(3600), (Told{"breakFinished short completed 45 of 45"}));
     // What is left of the night counts from the end of the break on.
     EXPECT_EQ(driver.tick(), (Told{"wentAway since 45"}));
-}
-
-TEST(EngineTick, waitsForTheEndButtonWhereThePersonWishes) {
-    EngineDriver driver({.holdUntilEndPressed = true});
-    driver.startBreak();
-    EXPECT_EQ(driver.run(44), Told());
-    EXPECT_FALSE(driver.engine.canEndBreak(driver.now()));
-    EXPECT_EQ(driver.tick(), Told{"breakAwaitingEnd short 45"});
-    EXPECT_EQ(driver.run(3600), Told());
-    EXPECT_EQ(driver.endBreak(), Told{"breakFinished short completed 3645 of 45"});
-    EXPECT_EQ(driver.tick(), Told());
-    EXPECT_EQ(driver.engine.workElapsed(), 1);
-}
-
-TEST(EngineTick, startsANewDayWithThePresentStretch) {
-    EngineDriver driver({}, at("2026-03-09T22:50:00Z"));
-    driver.snooze(0);
-    driver.run(599);
-    EXPECT_EQ(driver.engine.snoozesToday(), 1);
-    driver.tick();
-    EXPECT_EQ(driver.engine.snoozesToday(), 0);
-    EXPECT_EQ(driver.engine.snoozesThisBreak(), 1);
-    EXPECT_EQ(driver.engine.longestStretchToday(), 600);
-    driver.snooze(300);
-    driver.tick();
-    EXPECT_EQ(driver.engine.longestStretchToday(), 600);
-}
-
-TEST(EngineTick, survivesAClockThatJumps) {
-    EngineDriver driver;
-    driver.run(10);
-    EXPECT_EQ(driver.tick(-7200), Told());
-    EXPECT_EQ(driver.engine.workElapsed(), 10);
-    driver.tick();
-    EXPECT_EQ(driver.engine.workElapsed(), 11);
-    EXPECT_EQ(driver.tick(86400),
-              (Told{"wentAway since -7189", "returned after 86400 fresh, natural completed 86400 of 86400"}));
 }
 
 } // namespace

@@ -23,6 +23,8 @@ TEST(Json, writesSortedKeysAndShortNumbers) {
     for (const auto& [read, written] : {
              Case{R"( {"b" : 1.0, "a":[ ], "B":{}, "a\u0062":null} )", R"({"B":{},"a":[],"ab":null,"b":1})"},
              Case{R"({"a":1,"a":2})", R"({"a":2})"},
+             Case{R"([1e2, -0.0, 100000.0, 1773000000.0, 9007199254740993.0, 1e22])",
+                  R"([100,0,100000,1773000000,9007199254740992,1e+22])"},
              Case{R"([1e2, -0.0, 0.1, 1e300, 9223372036854775807, 9223372036854775808, 1e-400, -1.5E+3])",
                   R"([100,0,0.1,1e+300,9223372036854775807,9223372036854775808,0,-1500])"},
              Case{R"("\u00e9\ud83c\udf61\/\n\u0001\"\\")", "\"é🍡/\\n\\u0001\\\"\\\\\""},
@@ -46,6 +48,11 @@ TEST(Json, refusesWhatIsNoJson) {
                             "+1"sv,
                             ".5"sv,
                             "1."sv,
+                            "1e"sv,
+                            "[1.e999]"sv,
+                            "[01e999]"sv,
+                            "[1e999e5]"sv,
+                            "[1e999-]"sv,
                             "NaN"sv,
                             "'a'"sv,
                             "[1] 2"sv,
@@ -82,6 +89,36 @@ TEST(Json, everyNumberReadsBackEqual) {
             ASSERT_EQ(parseJson(*text).value->number(), number) << *text;
             ASSERT_FALSE(text->ends_with(".0"));
         }
+    }
+}
+
+/// Up to 400 digits with a point and a power of ten anywhere.
+std::string randomNumber(std::mt19937_64& random) {
+    const auto digits = [&](std::size_t most) {
+        std::string text(1 + random() % most, '0');
+        for (std::size_t place = random() % text.size(); place < text.size(); ++place) {
+            text[place] = static_cast<char>('0' + random() % 10);
+        }
+        return text;
+    };
+    const std::string sign = random() % 2 == 0 ? "-" : "";
+    const std::string whole = random() % 3 == 0 ? "0" : std::to_string(1 + random() % 9) + digits(400);
+    const std::string fraction = random() % 3 == 0 ? "" : "." + digits(400);
+    const std::string exponents[] = {"", "e", "E+", "e-"};
+    const auto& exponent = exponents[random() % 4];
+    return sign + whole + fraction + exponent + (exponent.empty() ? "" : std::to_string(random() % 800));
+}
+
+TEST(Json, anyNumberThatADoubleHoldsIsReadHoweverItIsSpelled) {
+    std::mt19937_64 random(8);
+    for (int round = 0; round < 20'000; ++round) {
+        const auto text = randomNumber(random);
+        const auto parsed = parseJson("[" + text + ",1]");
+        ASSERT_TRUE(parsed.value) << text;
+        const double expected = std::strtod(text.c_str(), nullptr);
+        ASSERT_EQ(parsed.value->array()->front().number(),
+                  std::isfinite(expected) ? std::optional(expected) : std::nullopt)
+            << text;
     }
 }
 
