@@ -1,6 +1,7 @@
 #pragma once
 
 #include "WumbleCore/Engine/BreakEngine.h"
+#include "WumbleCore/Life/Recap.h"
 #include "tools/wumble-replay/Arguments.h"
 
 #include <optional>
@@ -74,6 +75,15 @@ private:
     Reply history(Arguments& arguments);
     Reply summaries(Arguments& arguments);
 
+    Reply life(Arguments& arguments);
+    Reply today(Arguments& arguments);
+    Reply record(Arguments& arguments);
+    Reply story(Arguments& arguments);
+    Reply streak(Arguments& arguments);
+    Reply recap(Arguments& arguments);
+    Reply recaps(Arguments& arguments);
+    Reply markSeen(Arguments& arguments);
+
     Reply choreography(Arguments& arguments);
     Reply jiggle(Arguments& arguments);
     Reply svg(Arguments& arguments);
@@ -97,6 +107,7 @@ private:
     std::optional<BreakEngine> engine_;
     Date lastNow_;
     std::vector<BreakRecord> history_;
+    WumbleLife life_;
     bool hadErrors_ = false;
 };
 
