@@ -5,6 +5,8 @@
 #include "WumbleCore/Foundation/Json.h"
 #include "WumbleCore/Foundation/UUID.h"
 
+#include <map>
+
 namespace wumble {
 
 /// How a date stands in JSON: as text in the files, as a number of seconds in recordings.
@@ -23,6 +25,12 @@ template <class Value>
 concept HasOwnJsonForm = requires(const Value& value, const Json& json) {
     { value.toJson() } -> std::same_as<Json>;
     { Value::fromJson(json) } -> std::same_as<std::optional<Value>>;
+};
+
+/// A record whose reading depends on the key it stands under in a map brings a static `fromJson(json, key)`.
+template <class Value>
+concept HasKeyedJsonForm = requires(const Json& json, std::string_view key) {
+    { Value::fromJson(json, key) } -> std::same_as<std::optional<Value>>;
 };
 
 class JsonEncoder {
@@ -53,6 +61,14 @@ public:
             array.push_back(encode(value));
         }
         return array;
+    }
+
+    template <class Value> Json encode(const std::map<std::string, Value>& values) const {
+        Json::Object object;
+        for (const auto& [key, value] : values) {
+            put(object, key, value);
+        }
+        return object;
     }
 
     template <HasJsonFields Record> Json encode(const Record& record) const {
@@ -150,6 +166,21 @@ private:
         values.clear();
         for (const auto& element : *array) {
             if (!read(element, values.emplace_back())) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    template <HasKeyedJsonForm Value>
+    bool read(const Json& json, std::map<std::string, Value>& values) const {
+        const auto* object = json.object();
+        if (object == nullptr) {
+            return false;
+        }
+        values.clear();
+        for (const auto& [key, element] : *object) {
+            if (!take(Value::fromJson(element, key), values[key])) {
                 return false;
             }
         }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "WumbleCore/Foundation/Json.h"
+#include "WumbleCore/Foundation/Random.h"
 #include "WumbleCore/Life/WumbleAccessory.h"
 #include "WumbleCore/Life/WumbleFace.h"
 #include "WumbleCore/Life/WumblePersonality.h"
 
 #include <optional>
+#include <span>
 #include <string_view>
 
 namespace wumble {
@@ -29,6 +31,11 @@ struct WumbleTraits {
 
     /// The same look for the same text on every machine and at every start.
     static WumbleTraits seeded(std::string_view seed);
+
+    /// A new pet's traits: another personality than `avoiding`, its favourite keepsake half of the time, and
+    /// looks that come round before any repeats. `recent` holds the traits of the days before, nearest first.
+    static WumbleTraits random(const Random& random, std::optional<WumblePersonality> avoiding,
+                               std::span<const WumbleTraits> recent);
 
     /// Reads stored traits. What is missing, of a wrong type or unknown is taken from the look of `seed`; absent
     /// only when the value is no object.

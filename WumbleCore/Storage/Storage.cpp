@@ -10,6 +10,7 @@ namespace {
 
 constexpr auto settingsFile = "settings.json";
 constexpr auto engineFile = "engine.json";
+constexpr auto lifeFile = "wumble.json";
 constexpr auto historyFile = "history.jsonl";
 constexpr auto folderName = "Quietlark";
 
@@ -48,11 +49,11 @@ WumbleSettings Storage::loadSettings() const {
 
 void Storage::save(const WumbleSettings& settings) const { saveWhole(settingsFile, settings); }
 
-std::optional<EngineSnapshot> Storage::loadSnapshot() const {
-    const auto bytes = readWholeFile(file(engineFile));
-    const auto json = bytes ? parseJson(*bytes).value : std::nullopt;
-    return json ? decoder_.decode<EngineSnapshot>(*json) : std::nullopt;
-}
+WumbleLife Storage::loadLife() const { return loadWhole<WumbleLife>(lifeFile).value_or(WumbleLife{}); }
+
+void Storage::save(const WumbleLife& life) const { saveWhole(lifeFile, life); }
+
+std::optional<EngineSnapshot> Storage::loadSnapshot() const { return loadWhole<EngineSnapshot>(engineFile); }
 
 void Storage::save(const EngineSnapshot& snapshot) const { saveWhole(engineFile, snapshot); }
 
@@ -67,6 +68,12 @@ std::vector<BreakRecord> Storage::loadHistory() const {
     const bool isComplete =
         readInPieces(file(historyFile), [&](std::string_view piece) { reader.feed(piece); });
     return isComplete ? reader.finish() : std::vector<BreakRecord>{};
+}
+
+template <class Value> std::optional<Value> Storage::loadWhole(const char* name) const {
+    const auto bytes = readWholeFile(file(name));
+    const auto json = bytes ? parseJson(*bytes).value : std::nullopt;
+    return json ? decoder_.decode<Value>(*json) : std::nullopt;
 }
 
 template <class Value> void Storage::saveWhole(const char* name, const Value& value) const {

@@ -3,6 +3,7 @@
 #include "WumbleCore/Engine/EngineSnapshot.h"
 #include "WumbleCore/Engine/WumbleSettings.h"
 #include "WumbleCore/Foundation/JsonCoding.h"
+#include "WumbleCore/Life/WumbleLife.h"
 #include "WumbleCore/Storage/BreakRecord.h"
 
 #include <filesystem>
@@ -34,6 +35,10 @@ public:
     WumbleSettings loadSettings() const;
     void save(const WumbleSettings& settings) const;
 
+    /// A fresh one when the file is missing or can't be read.
+    WumbleLife loadLife() const;
+    void save(const WumbleLife& life) const;
+
     /// Absent when the file is missing or can't be read.
     std::optional<EngineSnapshot> loadSnapshot() const;
     void save(const EngineSnapshot& snapshot) const;
@@ -45,6 +50,7 @@ public:
 
 private:
     std::filesystem::path file(const char* name) const { return directory_ / name; }
+    template <class Value> std::optional<Value> loadWhole(const char* name) const;
     template <class Value> void saveWhole(const char* name, const Value& value) const;
 
     std::filesystem::path directory_;

@@ -52,10 +52,12 @@ public:
     const Json::Object* optionalObject(std::string_view key);
     const Json::Object* requiredObject(std::string_view key);
 
+    /// A key as it stands, whatever its type; null when it is missing.
+    const Json* find(std::string_view key) const;
+
     void fail(std::string_view key, std::string_view reason);
 
 private:
-    const Json* find(std::string_view key) const;
     template <class Value> std::optional<Value> decode(const Json& json) const {
         return JsonDecoder(DateForm::secondsSinceEpoch).decode<Value>(json);
     }

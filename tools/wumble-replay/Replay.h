@@ -1,6 +1,7 @@
 #pragma once
 
 #include "WumbleCore/Engine/BreakEngine.h"
+#include "WumbleCore/Life/Recap.h"
 #include "tools/wumble-replay/Arguments.h"
 
 #include <optional>
@@ -75,6 +76,14 @@ private:
     Reply summaries(Arguments& arguments);
 
     Reply seeded(Arguments& arguments);
+    Reply life(Arguments& arguments);
+    Reply today(Arguments& arguments);
+    Reply record(Arguments& arguments);
+    Reply story(Arguments& arguments);
+    Reply streak(Arguments& arguments);
+    Reply recap(Arguments& arguments);
+    Reply recaps(Arguments& arguments);
+    Reply markSeen(Arguments& arguments);
 
     Reply choreography(Arguments& arguments);
     Reply jiggle(Arguments& arguments);
@@ -99,6 +108,7 @@ private:
     std::optional<BreakEngine> engine_;
     Date lastNow_;
     std::vector<BreakRecord> history_;
+    WumbleLife life_;
     bool hadErrors_ = false;
 };
 
