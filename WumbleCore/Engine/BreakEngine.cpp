@@ -5,8 +5,8 @@
 
 namespace wumble {
 
-BreakEngine::BreakEngine(WumbleSettings settings, Date now, Calendar calendar, IdSource newId)
-    : settings_(std::move(settings)), snoozeDay_(calendar.startOfDay(now)), lastTick_(now),
+BreakEngine::BreakEngine(const WumbleSettings& settings, Date now, Calendar calendar, IdSource newId)
+    : settings_(settings.withHeldLengths()), snoozeDay_(calendar.startOfDay(now)), lastTick_(now),
       calendar_(std::move(calendar)), newId_(std::move(newId)) {}
 
 /// A quick break that would land just before the long one, or after it, is dropped; the long one keeps its

@@ -21,7 +21,8 @@ struct DueBreak {
 
 /// The clock of the whole program: it decides when a break is due, what kind it is, what holds it back and
 /// what the person's time away means. It owns no timer and reads no clock: about once a second it is given
-/// the signals of that moment, and it answers with what happened. Lengths are seconds.
+/// the signals of that moment, and it answers with what happened. Lengths are seconds, held within
+/// `longestLength` where they come in.
 ///
 /// No operation fails. One that isn't allowed in the present state returns nothing and changes nothing, so
 /// callers ask `canSnooze` and the like only to draw their buttons. Events that an operation returns are
@@ -41,7 +42,8 @@ public:
     using IdSource = std::function<UUID()>;
 
     BreakEngine(
-        WumbleSettings settings, Date now, Calendar calendar, IdSource newId = [] { return UUID::random(); });
+        const WumbleSettings& settings, Date now, Calendar calendar,
+        IdSource newId = [] { return UUID::random(); });
 
     /// The events of this moment in the order in which they must be handled, mostly none.
     EngineEvents tick(const Signals& signals);
@@ -104,7 +106,7 @@ public:
     void start(Date now);
     void restart(Date now);
     /// Takes over new settings without losing the person's progress or dropping a break on them unannounced.
-    void update(WumbleSettings settings);
+    void update(const WumbleSettings& settings);
 
     /// When the present typing hold ends at the latest; absent without one.
     std::optional<Date> typingHoldEnds() const;

@@ -1,4 +1,5 @@
 #include "WumbleCore/Engine/BreakEngine.h"
+#include "WumbleCore/Engine/Length.h"
 
 #include <algorithm>
 
@@ -131,11 +132,12 @@ EngineEvents BreakEngine::snooze(double by, Date now) {
     increase(snoozesThisBreak_);
     increase(snoozesToday_);
     const bool fromBreak = breakOnScreen() != nullptr;
+    const double away = heldLength(by);
     if (fromBreak) {
         phase_ = phase::Working{};
-        workElapsed_ = std::max(due().at - by, 0.0);
+        workElapsed_ = std::max(due().at - away, 0.0);
     } else {
-        workElapsed_ = std::min(workElapsed_, due().at) - by;
+        workElapsed_ = std::min(workElapsed_, due().at) - away;
         ignoreSetAside_ = 0;
     }
     announceAgainUnlessNear();

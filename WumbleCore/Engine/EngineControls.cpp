@@ -50,10 +50,10 @@ void BreakEngine::restart(Date now) {
     lastTick_ = now;
 }
 
-void BreakEngine::update(WumbleSettings settings) {
+void BreakEngine::update(const WumbleSettings& settings) {
     const double oldDue = due().at;
     const NudgePlan oldNudges(settings_, oldDue);
-    settings_ = std::move(settings);
+    settings_ = settings.withHeldLengths();
     const DueBreak newDue = due();
     const NudgePlan newNudges(settings_, newDue.at);
     if (newNudges != oldNudges) {

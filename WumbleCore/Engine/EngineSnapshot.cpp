@@ -1,5 +1,6 @@
 #include "WumbleCore/Engine/EngineSnapshot.h"
 #include "WumbleCore/Engine/BreakEngine.h"
+#include "WumbleCore/Engine/Length.h"
 #include "WumbleCore/Engine/NudgePlan.h"
 
 namespace wumble {
@@ -32,7 +33,7 @@ void BreakEngine::restore(const EngineSnapshot& snapshot, Date now) {
     lastTick_ = now;
     const double countedCarry =
         static_cast<double>(snapshot.breaksInCycle.value_or(0)) * settings_.workInterval;
-    moveCarry_ = snapshot.moveCarry.value_or(countedCarry);
+    moveCarry_ = heldLength(snapshot.moveCarry.value_or(countedCarry));
     moveRetried_ = snapshot.moveRetried.value_or(false);
     nudgeTurn_ = snapshot.nudgeTurn.value_or(0);
     if (calendar_.isSameDay(snapshot.snoozeDay, now)) {
@@ -41,7 +42,7 @@ void BreakEngine::restore(const EngineSnapshot& snapshot, Date now) {
         snoozeDay_ = snapshot.snoozeDay;
     }
     if (now - snapshot.savedAt < WumbleSettings::awayCountsAsMove) {
-        workElapsed_ = snapshot.workElapsed;
+        workElapsed_ = heldLength(snapshot.workElapsed);
         snoozesThisBreak_ = snapshot.snoozesThisBreak;
         nudgesSent_ = NudgePlan(settings_, due().at).countReached(workElapsed_);
     } else {
@@ -63,7 +64,7 @@ void BreakEngine::restorePhase(const EngineSnapshot& snapshot, Date now) {
     phase_ = phase::Working{};
     if (const auto& shown = snapshot.activeBreak) {
         if (now < shown->endsAt() || shown->awaitingEnd) {
-            workElapsed_ = snapshot.workElapsed;
+            workElapsed_ = heldLength(snapshot.workElapsed);
             phase_ = phase::OnBreak{*shown};
         } else {
             // It ran out while nobody could record it; for the cycle it counts.

@@ -1,4 +1,5 @@
 #include "WumbleCore/Engine/WumbleSettings.h"
+#include "WumbleCore/Engine/Length.h"
 
 #include <algorithm>
 #include <cmath>
@@ -38,6 +39,16 @@ std::vector<DaySchedule> WumbleSettings::defaultOfficeHours() {
         week.push_back({.weekday = weekday, .enabled = weekday >= monday && weekday <= friday});
     }
     return week;
+}
+
+WumbleSettings WumbleSettings::withHeldLengths() const {
+    WumbleSettings held = *this;
+    visitJsonFields([&](std::string_view, auto member) {
+        if constexpr (std::is_same_v<decltype(held.*member), double&>) {
+            held.*member = heldLength(held.*member);
+        }
+    });
+    return held;
 }
 
 std::optional<Counter> WumbleSettings::longBreakEvery() const {
@@ -97,7 +108,8 @@ void WumbleSettings::fitMoveToEyeBreaks(const std::optional<WumbleSettings>& old
     const bool keepsMultiple = old && old->longBreakEvery() && workInterval != old->workInterval &&
                                moveInterval == old->moveInterval;
     if (keepsMultiple) {
-        moveInterval = workInterval * std::round(old->moveInterval / old->workInterval);
+        const double kept = workInterval * std::round(old->moveInterval / old->workInterval);
+        moveInterval = std::isfinite(kept) ? kept : moveInterval;
     }
     moveInterval = fittedMove(moveInterval, workInterval);
 }

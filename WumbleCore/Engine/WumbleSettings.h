@@ -110,6 +110,9 @@ struct WumbleSettings {
     /// wrong type.
     std::optional<WumbleSettings> overlaid(const Json::Object& keys) const;
 
+    /// These settings with no length beyond `longestLength`.
+    WumbleSettings withHeldLengths() const;
+
     /// Only long breaks run, with nudges between them.
     bool nudgesOnly() const { return longBreaksEnabled && !eyeBreaksEnabled; }
 
@@ -129,7 +132,7 @@ struct WumbleSettings {
     static double fittedMove(double move, double eye);
 
     /// Keeps `moveInterval` a whole multiple of `workInterval`, the same one as in `old` where just
-    /// `workInterval` was changed.
+    /// `workInterval` was changed and that multiple is a number.
     void fitMoveToEyeBreaks(const std::optional<WumbleSettings>& old);
 
     /// Keeps nudges closer together than the long breaks they stand between, or turns them off with 0.

@@ -29,6 +29,14 @@ struct Rect {
     constexpr double farY() const { return y + height; }
 };
 
+constexpr bool isEmpty(const Rect& rect) { return !(rect.width > 0 && rect.height > 0); }
+
+/// Whether no point of `inner` lies outside; shared edges are inside.
+constexpr bool contains(const Rect& outer, const Rect& inner) {
+    return inner.x >= outer.x && inner.right() <= outer.right() && inner.y >= outer.y &&
+           inner.farY() <= outer.farY();
+}
+
 /// The area that both rectangles cover, 0 where they don't meet.
 constexpr double commonArea(const Rect& a, const Rect& b) {
     const double left = a.x > b.x ? a.x : b.x;

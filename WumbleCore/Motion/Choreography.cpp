@@ -1,4 +1,5 @@
 #include "WumbleCore/Motion/Choreography.h"
+#include "WumbleCore/Motion/Spring.h"
 
 #include <algorithm>
 #include <cmath>
@@ -33,12 +34,8 @@ double effort(double p) {
 }
 
 double springDrop(double t) {
-    const double omega = 2 * pi / hangResponse;
-    const double root = std::sqrt(1 - hangDamping * hangDamping);
-    const double damped = omega * root;
-    const double decay = std::exp(-hangDamping * omega * t);
-    const double swing = std::cos(damped * t) + hangDamping / root * std::sin(damped * t);
-    return hangFrom + (hangDrops.front() - hangFrom) * (1 - decay * swing);
+    constexpr Motion::Spring spring{.response = hangResponse, .damping = hangDamping};
+    return hangFrom + (hangDrops.front() - hangFrom) * spring.value(t);
 }
 
 /// The swing fades in and out while the pet leans over.

@@ -48,8 +48,8 @@ struct RecordedSignals {
 
 } // namespace
 
-BreakEngine Replay::makeEngine(WumbleSettings settings, Date now) {
-    return {std::move(settings), now, calendar_,
+BreakEngine Replay::makeEngine(const WumbleSettings& settings, Date now) {
+    return {settings, now, calendar_,
             [this] { return UUID::random([this](std::uint64_t below) { return idSource_() % below; }); }};
 }
 
@@ -185,7 +185,7 @@ Reply Replay::update(Arguments& arguments) {
     }
     settings->fitMoveToEyeBreaks(old);
     settings->fitNudgesToMoveBreaks();
-    engine_->update(std::move(*settings));
+    engine_->update(*settings);
     return engineReply({});
 }
 

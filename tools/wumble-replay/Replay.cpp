@@ -49,6 +49,17 @@ const std::vector<Replay::Command>& Replay::commands() {
         {"history", "text", &Replay::history, Needs::nothing},
         {"summaries", "", &Replay::summaries, Needs::nothing},
         {"choreography", "t", &Replay::choreography, Needs::nothing},
+        {"jiggle", "preset (wumble, stiff), history ([[x,y],...], newest first)", &Replay::jiggle,
+         Needs::nothing},
+        {"svg", "path", &Replay::svg, Needs::nothing},
+        {"notePose", "t, entrance, covering, leaving, reduceMotion", &Replay::notePose, Needs::nothing},
+        {"game", "bundleID?, categories, paths", &Replay::game, Needs::nothing},
+        {"displayName", "name?", &Replay::displayName, Needs::nothing},
+        {"fillsDisplay", "rect ([x,y,w,h]), displays ([{frame,topInset},...])", &Replay::fillsDisplay,
+         Needs::nothing},
+        {"playback", "name?", &Replay::playback, Needs::nothing},
+        {"appBundle", "path", &Replay::appBundle, Needs::nothing},
+        {"capturers", "line", &Replay::capturers, Needs::nothing},
     };
     return commands;
 }

@@ -75,8 +75,18 @@ private:
     Reply summaries(Arguments& arguments);
 
     Reply choreography(Arguments& arguments);
+    Reply jiggle(Arguments& arguments);
+    Reply svg(Arguments& arguments);
+    Reply notePose(Arguments& arguments);
 
-    BreakEngine makeEngine(WumbleSettings settings, Date now);
+    Reply game(Arguments& arguments);
+    Reply displayName(Arguments& arguments);
+    Reply fillsDisplay(Arguments& arguments);
+    Reply playback(Arguments& arguments);
+    Reply appBundle(Arguments& arguments);
+    Reply capturers(Arguments& arguments);
+
+    BreakEngine makeEngine(const WumbleSettings& settings, Date now);
 
     /// Carries out `operation(now)` on the engine once the keys are known to be right.
     template <class Operation> Reply operate(Arguments& arguments, Operation operation);
