@@ -31,7 +31,7 @@ void BreakHistoryReader::keepUnfinished(std::string_view start) {
 }
 
 void BreakHistoryReader::readLine(std::string_view line) {
-    if (line.empty() || !line_.parse(line)) {
+    if (line.empty() || line.size() > longestLine || !line_.parse(line)) {
         return;
     }
     const auto record =

@@ -52,10 +52,11 @@ void flushFolder(const std::filesystem::path& folder) {
     }
 }
 
+/// The file that a link leads to. What leads to a device or a pipe is replaced itself, never its target.
 std::filesystem::path behindLinks(const std::filesystem::path& path) {
     std::error_code error;
     auto target = std::filesystem::canonical(path, error);
-    return error ? path : target;
+    return !error && std::filesystem::is_regular_file(target, error) ? target : path;
 }
 
 FileDescriptor openForReading(const std::filesystem::path& path) {

@@ -17,8 +17,8 @@ std::optional<std::string> readWholeFile(const std::filesystem::path& path);
 /// Hands a regular file of any size over in pieces; false when it can't be read to its end.
 bool readInPieces(const std::filesystem::path& path, const std::function<void(std::string_view)>& piece);
 
-/// Writes the file whole or not at all, also when the program or the machine dies in the middle. A link keeps
-/// pointing where it did. False when the old file still stands.
+/// Writes the file whole or not at all, also when the program or the machine dies in the middle. A link to
+/// a file keeps pointing where it did. False when the old file still stands.
 bool replaceWholeFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// Adds one line with one short write and makes the file where there is none. A line that could be written

@@ -4,6 +4,9 @@
 
 #include <cstdlib>
 
+#include <pwd.h>
+#include <unistd.h>
+
 namespace wumble {
 
 namespace {
@@ -19,6 +22,14 @@ std::string environment(const char* name) {
     return value != nullptr ? value : "";
 }
 
+std::filesystem::path homeFolder() {
+    if (std::filesystem::path home = environment("HOME"); home.is_absolute()) {
+        return home;
+    }
+    const passwd* account = ::getpwuid(::getuid());
+    return account != nullptr ? account->pw_dir : "/";
+}
+
 } // namespace
 
 std::filesystem::path Storage::defaultDirectory() {
@@ -29,7 +40,7 @@ std::filesystem::path Storage::defaultDirectory() {
     if (const std::filesystem::path data = environment("XDG_DATA_HOME"); data.is_absolute()) {
         return data / folderName;
     }
-    return std::filesystem::path(environment("HOME")) / ".local" / "share" / folderName;
+    return homeFolder() / ".local" / "share" / folderName;
 }
 
 Storage::Storage(std::filesystem::path directory) : directory_(std::move(directory)) {

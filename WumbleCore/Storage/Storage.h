@@ -18,7 +18,7 @@ namespace wumble {
 class Storage {
 public:
     /// `WUMBLE_DATA_DIR` as it stands where it is set and not empty, otherwise the folder "Quietlark" of the
-    /// person's data folder.
+    /// person's data folder: `XDG_DATA_HOME`, or ".local/share" in their home.
     static std::filesystem::path defaultDirectory();
 
     /// Creates the folder and its parents where they are missing.

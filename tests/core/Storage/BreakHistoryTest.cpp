@@ -72,6 +72,21 @@ TEST(BreakHistory, dropsOnlyLinesThatCantBeRead) {
     }
 }
 
+TEST(BreakHistory, passesOverALineTooLongToBeARecord) {
+    const auto before = breakEnding("2026-03-09T08:00:00Z");
+    const auto after = breakEnding("2026-03-09T10:00:00Z");
+    auto huge = line(breakEnding("2026-03-09T09:00:00Z"));
+    huge.insert(huge.size() - 2, ",\"note\":\"" + std::string(BreakHistoryReader::longestLine, 'x') + '"');
+    const auto text = line(before) + huge + line(after);
+    for (const auto size : {std::size_t{4096}, text.size()}) {
+        BreakHistoryReader reader;
+        for (std::size_t place = 0; place < text.size(); place += size) {
+            reader.feed(std::string_view(text).substr(place, size));
+        }
+        EXPECT_EQ(reader.finish(), (std::vector{before, after})) << size;
+    }
+}
+
 TEST(BreakHistory, readsTheSameInPiecesOfAnySize) {
     std::string text = "\n";
     for (int hour = 10; hour < 20; ++hour) {

@@ -6,8 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <pwd.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace wumble {
 namespace {
@@ -47,17 +49,21 @@ TEST(Storage, findsTheFolderByTheEnvironment) {
     struct Case {
         const char* chosen;
         const char* dataHome;
-        const char* expected;
+        const char* home;
+        fs::path expected;
     };
-    for (const auto& [chosen, dataHome, expected] :
-         {Case{"/somewhere/./else", "/data", "/somewhere/./else"},
-          Case{"~/not expanded", "/data", "~/not expanded"}, Case{"", "/data", "/data/Quietlark"},
-          Case{"", "", "/home/anna/.local/share/Quietlark"},
-          Case{"", "relative", "/home/anna/.local/share/Quietlark"}}) {
+    const fs::path accountHome = ::getpwuid(::getuid())->pw_dir;
+    for (const auto& [chosen, dataHome, home, expected] :
+         {Case{"/somewhere/./else", "/data", "/home/anna", "/somewhere/./else"},
+          Case{"~/not expanded", "/data", "/home/anna", "~/not expanded"},
+          Case{"", "/data", "/home/anna", "/data/Quietlark"},
+          Case{"", "", "/home/anna", "/home/anna/.local/share/Quietlark"},
+          Case{"", "relative", "/home/anna", "/home/anna/.local/share/Quietlark"},
+          Case{"", "", "", accountHome / ".local/share/Quietlark"}}) {
         const auto result = test::inChild([&]() -> std::string {
             ::setenv("WUMBLE_DATA_DIR", chosen, 1);
             ::setenv("XDG_DATA_HOME", dataHome, 1);
-            ::setenv("HOME", "/home/anna", 1);
+            ::setenv("HOME", home, 1);
             return Storage::defaultDirectory() == expected ? "" : Storage::defaultDirectory().string();
         });
         EXPECT_EQ(result.complaint, "") << expected;
@@ -126,26 +132,57 @@ TEST(Storage, treatsWhatCantBeReadAsMissingAndLeavesItAlone) {
     }
 }
 
+struct OddPlace {
+    const char* name;
+    void (*make)(const fs::path& place, const fs::path& elsewhere);
+};
+
+const OddPlace oddPlaces[] = {
+    {"a folder", [](auto& place, auto&) { fs::create_directories(place / "inside"); }},
+    {"a pipe", [](auto& place, auto&) { ASSERT_EQ(::mkfifo(place.c_str(), 0600), 0); }},
+    {"a link to a pipe",
+     [](auto& place, auto& elsewhere) {
+         ASSERT_EQ(::mkfifo(elsewhere.c_str(), 0600), 0);
+         fs::create_symlink(elsewhere, place);
+     }},
+    {"a link to nothing", [](auto& place, auto& elsewhere) { fs::create_symlink(elsewhere, place); }},
+    {"a link to itself", [](auto& place, auto&) { fs::create_symlink(place, place); }},
+};
+
 TEST(Storage, survivesFoldersPipesAndLinksInThePlaceOfItsFiles) {
+    for (const auto& [name, make] : oddPlaces) {
+        SCOPED_TRACE(name);
+        const TemporaryFolder folder;
+        const Storage storage(folder / "data");
+        for (const auto* file : {"settings.json", "engine.json", "history.jsonl"}) {
+            make(folder / "data" / file, folder / file);
+        }
+        EXPECT_EQ(storage.loadSettings(), WumbleSettings{});
+        EXPECT_FALSE(storage.loadSnapshot());
+        EXPECT_TRUE(storage.loadHistory().empty());
+        storage.save(settingsWith(1500));
+        storage.append(breakEnding("2026-03-09T08:20:45Z"));
+        const bool isReplaced = fs::is_regular_file(folder / "data/settings.json");
+        EXPECT_EQ(storage.loadSettings(), isReplaced ? settingsWith(1500) : WumbleSettings{});
+        EXPECT_TRUE(isReplaced || fs::is_directory(folder / "data/settings.json/inside"));
+        EXPECT_TRUE(fs::is_fifo(folder / "settings.json") || !fs::exists(folder / "settings.json"));
+        EXPECT_LE(namesIn(folder / "data").size(), 3);
+    }
+}
+
+TEST(Storage, savesBehindALinkAndLeavesTheLink) {
     const TemporaryFolder folder;
     const Storage storage(folder / "data");
-    fs::create_directory(folder / "data/settings.json");
-    ASSERT_EQ(::mkfifo((folder / "data/engine.json").c_str(), 0600), 0);
-    ASSERT_EQ(::mkfifo((folder / "data/history.jsonl").c_str(), 0600), 0);
-    EXPECT_EQ(storage.loadSettings(), WumbleSettings{});
-    EXPECT_FALSE(storage.loadSnapshot());
-    EXPECT_TRUE(storage.loadHistory().empty());
+    for (const auto* file : {"settings.json", "history.jsonl"}) {
+        test::write(folder / file, "");
+        fs::create_symlink(folder / file, folder / "data" / file);
+    }
     storage.save(settingsWith(1500));
     storage.append(breakEnding("2026-03-09T08:20:45Z"));
-    EXPECT_TRUE(fs::is_directory(folder / "data/settings.json"));
-    EXPECT_TRUE(fs::is_fifo(folder / "data/history.jsonl"));
-
-    const Storage linked(folder / "linked");
-    test::write(folder / "dotfiles.json", "{}");
-    fs::create_symlink(folder / "dotfiles.json", folder / "linked/settings.json");
-    linked.save(settingsWith(1500));
-    EXPECT_TRUE(fs::is_symlink(folder / "linked/settings.json"));
-    EXPECT_EQ(linked.loadSettings(), settingsWith(1500));
+    EXPECT_TRUE(fs::is_symlink(folder / "data/settings.json"));
+    EXPECT_TRUE(fs::is_symlink(folder / "data/history.jsonl"));
+    EXPECT_EQ(storage.loadSettings(), settingsWith(1500));
+    EXPECT_EQ(storage.loadHistory().size(), 1);
 }
 
 TEST(Storage, runsFromMemoryWhereTheFolderIsAFile) {
