@@ -6,29 +6,6 @@ namespace {
 using test::EngineDriver;
 using test::Told;
 
-TEST(EngineControls, keepTheStretchInAPauseAndBeginANewCycleOnRestart) {
-    EngineDriver driver;
-    driver.run(1345);
-    driver.pause(driver.now() + 60);
-    EXPECT_EQ(driver.run(59), Told());
-    EXPECT_EQ(driver.tick(), Told{"pauseEnded"});
-    driver.pause(driver.now() + 60);
-    driver.pause(); // replaces the timed one
-    EXPECT_EQ(driver.tick(3600), Told());
-    driver.engine.resume(driver.now());
-    EXPECT_EQ(driver.tick(), Told()); // the pause was no sleep
-    EXPECT_EQ(driver.engine.moveElapsed(), 1200 + 100 + 1);
-    driver.engine.restart(driver.now());
-    EXPECT_EQ(driver.engine.moveElapsed(), 0);
-    driver.run(1250);
-    driver.engine.stop(driver.now());
-    EXPECT_EQ(driver.run(3600), Told());
-    driver.engine.resume(driver.now());
-    driver.engine.start(driver.now());
-    EXPECT_EQ(driver.tick(), Told());
-    EXPECT_EQ(driver.engine.moveElapsed(), 1);
-}
-
 TEST(EngineControls, giveARunUpWhenNewSettingsBringTheBreakNear) {
     struct Case {
         const char* what;

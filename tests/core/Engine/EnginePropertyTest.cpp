@@ -134,6 +134,31 @@ public:
         EXPECT_TRUE(isStarted);
     }
 
+    /// A new start leaves nothing behind that shows in the next hour.
+    void expectCleanStart() {
+        engine_.skip(signals_.now, BreakEngine::SkipRule::forced);
+        engine_.resume(signals_.now);
+        signals_ = {.now = signals_.now};
+        if (hasStart(tickLater(1))) {
+            engine_.stop(signals_.now);
+        }
+        engine_.start(signals_.now);
+        engine_.restart(signals_.now);
+        auto fresh = makeEngine(engine_.settings(), signals_.now);
+        for (int second = 0; second < 3600; ++second) {
+            signals_ = chance_.oneIn(100) ? chance_.signals(signals_.now) : signals_;
+            signals_.idleSeconds = 0;
+            signals_.screenLocked = false; // an absence may reach back before the start
+            const auto events = tickLater(1);
+            EXPECT_EQ(fresh.tick(signals_).size(), events.size());
+            EXPECT_EQ(engine_.hold(), fresh.hold());
+            EXPECT_EQ(engine_.secondsUntilBreak(), fresh.secondsUntilBreak());
+            EXPECT_EQ(engine_.moveElapsed(), fresh.moveElapsed());
+            EXPECT_EQ(engine_.typingHoldEnds(), fresh.typingHoldEnds());
+            EXPECT_EQ(engine_.canWaitForPause(), fresh.canWaitForPause());
+        }
+    }
+
 private:
     static bool hasStart(const EngineEvents& events) {
         const auto starts = std::ranges::count_if(events, [](const EngineEvent& event) {
@@ -157,6 +182,7 @@ private:
         const bool hasStarted = hasStart(
             tickLater(chance_.pick({1.0, 1.0, 1.0, 1.0, 4.0, 29.0, 31.0, 400.0, -50.0, 0.0, 86400.0})));
         EXPECT_TRUE(mayBreak || !hasStarted) << "a break came into a call";
+        EXPECT_TRUE(!engine_.hold() || std::holds_alternative<phase::Working>(engine_.phase()));
         expectTypingHoldKept(hasStarted && !wasWaiting);
         expectRestorable();
     }
@@ -274,12 +300,14 @@ TEST(EngineProperty, keepsItsWordWhateverHappens) {
     }
 }
 
-TEST(EngineProperty, startsADueBreakOnceNothingHoldsItAndThePersonIsThere) {
+TEST(EngineProperty, comesToABreakAndToACleanStartFromAnywhere) {
     for (unsigned seed = 1; seed <= 200 && !HasFailure(); ++seed) {
         SCOPED_TRACE(seed);
         RandomSession session(seed, Values::usual);
         session.run(100);
         session.expectBreak();
+        session.run(100);
+        session.expectCleanStart();
     }
 }
 

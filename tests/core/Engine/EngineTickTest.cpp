@@ -19,7 +19,7 @@ TEST(EngineTick, letsAQuickBreakGiveWayToALongOneNearby) {
         {"third stretch", {}, 2400, {BreakKind::longBreak, 1200}},
         {"just too near", {}, 2100, {BreakKind::longBreak, 1500}},
         {"just far enough", {}, 2099, {BreakKind::shortBreak, 1200}},
-        {"short stretches fold less", {.workInterval = 400}, 2699, {BreakKind::shortBreak, 400}},
+        {"short stretches fold less", {.workInterval = 400}, 3099, {BreakKind::shortBreak, 400}},
         {"a quarter of them", {.workInterval = 400}, 3100, {BreakKind::longBreak, 500}},
         {"more carried than the cycle has", {}, 9999, {BreakKind::longBreak, 0}},
         {"long breaks alone", {.eyeBreaksEnabled = false}, 600, {BreakKind::longBreak, 3000}},

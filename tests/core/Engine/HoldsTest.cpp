@@ -24,22 +24,6 @@ EngineDriver held(const SmartActivity& activity, double worked,
     return driver;
 }
 
-TEST(Holds, giveTheBreathersTimeBackToANewActivityOnly) {
-    auto driver = held(call, 1399);
-    driver.signals.smartActivity.reset();
-    EXPECT_EQ(driver.run(30), (Told{"activity: none", "headsUp short in 59"}));
-    ASSERT_EQ(driver.engine.workElapsed(), 1170);
-    EngineDriver snoozed = driver;
-    driver.signals.smartActivity = activity::Meeting{"Zoom"};
-    EXPECT_EQ(driver.tick(), Told{"activity: On a call in Zoom"});
-    EXPECT_EQ(driver.engine.workElapsed(), 1170 + 259 + 1);
-    EXPECT_EQ(driver.engine.breatherAfter(), std::nullopt);
-    snoozed.snooze(100);
-    snoozed.signals.smartActivity = film;
-    EXPECT_EQ(snoozed.tick(), Told{"activity: Watching video in VLC"});
-    EXPECT_EQ(snoozed.engine.workElapsed(), 1170 - 100 + 1);
-}
-
 TEST(Holds, giveABreatherOfTheLongestRunUp) {
     struct Case {
         double cooldown, visibleFor, countdown, breather;
@@ -88,50 +72,6 @@ TEST(Holds, comeBackForWhatThePersonDidNotIgnore) {
         EXPECT_EQ(driver.tick(), told) << what;
         EXPECT_EQ(driver.engine.hold().has_value(), !told.empty()) << what;
     }
-}
-
-TEST(Holds, areBackAtOnceWithTheTimeWhenIgnoringIsTakenBack) {
-    auto driver = held(film, 1300);
-    driver.engine.ignoreSmartPause(driver.now());
-    EXPECT_EQ(driver.engine.workElapsed(), 1140);
-    EXPECT_EQ(driver.run(10), Told{"headsUp short in 59"});
-    EngineDriver paused = driver;
-    driver.engine.stopIgnoringSmartPause(driver.now());
-    EXPECT_EQ(driver.engine.workElapsed(), 1310);
-    EXPECT_EQ(driver.engine.hold(), HoldReason(hold::Smart{film}));
-    paused.pause();
-    EXPECT_FALSE(paused.engine.ignoringSmartPause());
-    EXPECT_EQ(paused.engine.workElapsed(), 1310);
-}
-
-TEST(Holds, letTheCountRunOnUnderTypingWhereNoCountdownShows) {
-    WumbleSettings settings = plain;
-    settings.countdownDuration = 0;
-    EngineDriver driver(settings);
-    driver.run(1195);
-    driver.signals.secondsSinceKeyDown = 1.49;
-    EXPECT_EQ(driver.run(30), Told());
-    EXPECT_EQ(driver.engine.overdue(), 25);
-    EngineDriver stubborn = driver;
-    driver.signals.secondsSinceKeyDown = 1.5;
-    EXPECT_EQ(driver.tick(), Told{"breakStarted short 45"});
-    EXPECT_EQ(stubborn.run(34), Told());
-    EXPECT_EQ(stubborn.tick(), Told{"breakStarted short 45"});
-    settings.holdOffWhileTyping = false;
-    EngineDriver firm(settings);
-    firm.signals.secondsSinceKeyDown = 0;
-    EXPECT_EQ(firm.run(1200), (Told{"headsUp short in 60", "breakStarted short 45"}));
-}
-
-TEST(Holds, renewTheMinuteOfTypingOnceTheBreakIsFarAgain) {
-    EngineDriver driver(plain);
-    driver.run(1196);
-    driver.signals.secondsSinceKeyDown = 0;
-    driver.run(50);
-    driver.snooze(10);
-    EXPECT_EQ(driver.engine.typingHoldEnds(), std::nullopt);
-    EXPECT_EQ(driver.run(9 + 60), Told());
-    EXPECT_EQ(driver.run(5), Told{"breakStarted short 45 snoozed 1"});
 }
 
 } // namespace

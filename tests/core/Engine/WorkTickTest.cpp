@@ -16,7 +16,9 @@ TEST(WorkTick, creditsAGapUpToFiveSecondsAndTakesALongOneForSleep) {
     for (const auto& [gap, credited, told] :
          {Case{0.25, 0.25, {}}, Case{4, 4, {}}, Case{20, 5, {}}, Case{30, 5, {}}, Case{-7200, 0, {}},
           Case{30.5, 0, {"wentAway since 100", "returned after 30.5"}},
-          Case{299, 0, {"wentAway since 100", "returned after 299"}}}) {
+          Case{299, 0, {"wentAway since 100", "returned after 299"}},
+          Case{
+              300, -100, {"wentAway since 100", "returned after 300 fresh, natural completed 300 of 300"}}}) {
         EngineDriver driver;
         driver.run(100);
         EXPECT_EQ(driver.tick(gap), told) << gap;
@@ -32,11 +34,13 @@ TEST(WorkTick, takesBackTheWorkThatNobodyDid) {
     };
     for (const auto& [what, idle, worked, left] :
          {Case{"just away", 60, 200, 140}, Case{"idle for longer than was credited", 100, 200, 135},
-          Case{"more than there is", 60, 30, 0}, Case{"a snoozed stretch", 60, -300, 0}}) {
+          Case{"more than there is", 60, 30, 0}, Case{"a snoozed stretch", 60, -300, 0},
+          Case{"locked at once", -5, 200, 200}}) {
         EngineDriver driver;
         driver.run(worked);
         driver.snooze(worked < 0 ? -worked : 0);
         driver.signals.idleSeconds = idle;
+        driver.signals.screenLocked = idle < 0;
         EXPECT_EQ(driver.tick().size(), 1U) << what;
         EXPECT_EQ(driver.engine.workElapsed(), left) << what;
     }
