@@ -3,6 +3,7 @@
 #include "WumbleCore/Words/Format.h"
 
 #include <array>
+#include <cstdio>
 
 namespace wumble::timeline {
 
@@ -28,7 +29,7 @@ std::string kindTitle(const Json& kind) {
 }
 
 std::string clockTime(const Json& time, const Calendar& calendar) {
-    return calendar.shortTime(Date{number(time)});
+    return timeline::clockTime(Date{number(time)}, calendar);
 }
 
 /// The only key of a tagged value and what stands under it.
@@ -68,13 +69,14 @@ std::string activityTitle(const Json& activity) {
 
 std::string startedSentence(const Json& started) {
     const bool isPreview = isTrue(member(started, "preview"));
-    return (isPreview ? "Preview" : kindTitle(member(started, "kind"))) + " begins, " +
+    return (isPreview ? "Preview" : kindTitle(member(started, "kind"))) + ", " +
            duration(member(started, "duration"));
 }
 
+/// A break that was taken has been told when it began.
 std::string finishedSentence(const Json& record) {
-    const auto kind = kindTitle(member(record, "kind"));
-    return kind + (text(member(record, "outcome")) == "skipped" ? " skipped" : " taken");
+    const bool isSkipped = text(member(record, "outcome")) == "skipped";
+    return isSkipped ? kindTitle(member(record, "kind")) + " skipped" : "";
 }
 
 std::string returnedSentence(const Json& returned) {
@@ -118,6 +120,13 @@ std::string recapSentence(const Json& command, const Json& answer) {
 }
 
 } // namespace
+
+std::string clockTime(Date date, const Calendar& calendar) {
+    const int minute = calendar.minuteOfDay(date);
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%02d:%02d", minute / 60, minute % 60);
+    return text.data();
+}
 
 const Json& member(const Json& object, std::string_view key) {
     static const Json nothing;

@@ -8,6 +8,9 @@
 
 namespace wumble::timeline {
 
+/// "09:05"
+std::string clockTime(Date date, const Calendar& calendar);
+
 /// A member of an object, or null where there is no such member or no object.
 const Json& member(const Json& object, std::string_view key);
 

@@ -2,20 +2,12 @@
 #include "tools/wumble-timeline/Sentences.h"
 
 #include <array>
-#include <cstdio>
 
 namespace wumble::timeline {
 
 namespace {
 
 constexpr std::string_view underTimes = "         ";
-
-std::string clockTime(Date date, const Calendar& calendar) {
-    const int minute = calendar.minuteOfDay(date);
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%02d:%02d", minute / 60, minute % 60);
-    return text.data();
-}
 
 std::string dayTitle(Date date, const Calendar& calendar) {
     constexpr std::array months{"January", "February", "March",     "April",   "May",      "June",
