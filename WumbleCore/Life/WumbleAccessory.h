@@ -2,10 +2,12 @@
 
 #include "WumbleCore/Life/Vocabulary.h"
 
+#include <cstdint>
+
 namespace wumble {
 
 /// What the pet wears.
-enum class WumbleAccessory {
+enum class WumbleAccessory : std::uint8_t {
     bow,
     sprout,
     flower,

@@ -2,9 +2,11 @@
 
 #include "WumbleCore/Life/Vocabulary.h"
 
+#include <cstdint>
+
 namespace wumble {
 
-enum class WumbleEyes { dots, round, bean, almond, sleepy, smiling, droopy };
+enum class WumbleEyes : std::uint8_t { dots, round, bean, almond, sleepy, smiling, droopy };
 
 template <> struct EnumTexts<WumbleEyes> {
     static constexpr std::array<std::pair<WumbleEyes, std::string_view>, 7> table{{
@@ -18,7 +20,7 @@ template <> struct EnumTexts<WumbleEyes> {
     }};
 };
 
-enum class WumbleMouth { smile, tinyO, cat, flat, wavy };
+enum class WumbleMouth : std::uint8_t { smile, tinyO, cat, flat, wavy };
 
 template <> struct EnumTexts<WumbleMouth> {
     static constexpr std::array<std::pair<WumbleMouth, std::string_view>, 5> table{{
@@ -30,7 +32,7 @@ template <> struct EnumTexts<WumbleMouth> {
     }};
 };
 
-enum class WumbleCheeks { blush, freckles };
+enum class WumbleCheeks : std::uint8_t { blush, freckles };
 
 struct WumbleCheeksRow {
     WumbleCheeks value;

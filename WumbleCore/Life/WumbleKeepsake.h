@@ -2,10 +2,12 @@
 
 #include "WumbleCore/Life/Vocabulary.h"
 
+#include <cstdint>
+
 namespace wumble {
 
 /// What the pet brings home when it is complete.
-enum class WumbleKeepsake {
+enum class WumbleKeepsake : std::uint8_t {
     book,
     tea,
     heart,

@@ -4,11 +4,12 @@
 #include "WumbleCore/Life/WumbleGesture.h"
 #include "WumbleCore/Life/WumbleKeepsake.h"
 
+#include <cstdint>
 #include <string>
 
 namespace wumble {
 
-enum class WumblePersonality { curious, dreamy, playful, shy, caring, particular };
+enum class WumblePersonality : std::uint8_t { curious, dreamy, playful, shy, caring, particular };
 
 struct WumblePersonalityRow {
     WumblePersonality value;

@@ -50,5 +50,6 @@ struct WumbleTraits {
         visitor("keepsake", &WumbleTraits::keepsake);
     }
 };
+static_assert(sizeof(WumbleTraits) == 6);
 
 } // namespace wumble

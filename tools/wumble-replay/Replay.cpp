@@ -56,6 +56,7 @@ const std::vector<Replay::Command>& Replay::commands() {
         {"recap", "period (week, month), date", &Replay::recap, Needs::nothing},
         {"recaps", "now, announced, seen", &Replay::recaps, Needs::nothing},
         {"markSeen", "period, date, now", &Replay::markSeen, Needs::nothing},
+        {"seeded", "seed", &Replay::seeded, Needs::nothing},
         {"choreography", "t", &Replay::choreography, Needs::nothing},
         {"jiggle", "preset (wumble, stiff), history ([[x,y],...], newest first)", &Replay::jiggle,
          Needs::nothing},

@@ -83,6 +83,7 @@ private:
     Reply recap(Arguments& arguments);
     Reply recaps(Arguments& arguments);
     Reply markSeen(Arguments& arguments);
+    Reply seeded(Arguments& arguments);
 
     Reply choreography(Arguments& arguments);
     Reply jiggle(Arguments& arguments);
