@@ -1,5 +1,4 @@
 #include "WumbleCore/Foundation/Text.h"
-#include "WumbleCore/Life/RevealStep.h"
 #include "WumbleCore/Life/WumbleBase.h"
 #include "WumbleCore/Life/WumbleTraits.h"
 
@@ -25,15 +24,6 @@ TYPED_TEST(Vocabulary, everyCaseStandsInItsPlaceAndReadsBackFromItsText) {
         EXPECT_EQ(enumFromText<TypeParam>(capitalized(enumText(value))), std::nullopt);
     }
     EXPECT_EQ(enumFromText<TypeParam>(""), std::nullopt);
-}
-
-TEST(WumbleBase, theLastEightAreSpecialAndNeverTurnUpByThemselves) {
-    EXPECT_EQ(dailyBases().size(), 18U);
-    EXPECT_EQ(dailyBases().back(), WumbleBase::matcha);
-    EXPECT_TRUE(std::ranges::none_of(dailyBases(), isSpecial));
-    EXPECT_EQ(specialBases().size(), 8U);
-    EXPECT_EQ(specialBases().front(), WumbleBase::vanilla);
-    EXPECT_TRUE(std::ranges::all_of(specialBases(), isSpecial));
 }
 
 TEST(WumbleBase, aStoredFlavourThatIsNotKnownIsVanilla) {
@@ -96,14 +86,6 @@ TEST(WumbleBase, isAnnouncedByItsOwnName) {
     }
 }
 
-TEST(WumbleGesture, everyRunHasALengthAndAPeakInsideIt) {
-    for (const auto gesture : allCases<WumbleGesture>()) {
-        EXPECT_GT(duration(gesture), 0) << enumText(gesture);
-        EXPECT_GT(peak(gesture), 0) << enumText(gesture);
-        EXPECT_LT(peak(gesture), 1) << enumText(gesture);
-    }
-}
-
 TEST(WumbleGesture, aPlayfulClickBringsPawGesturesOnlyToAPetWithPaws) {
     EXPECT_TRUE(std::ranges::none_of(sillyWithoutPaws, needsPaws));
     EXPECT_EQ(std::ranges::count_if(silly, needsPaws), 7);
@@ -131,25 +113,6 @@ TEST(WumbleKeepsake, losesItsArticleAndNothingElseAsANoun) {
         EXPECT_TRUE(name(keepsake) == "a " + words || name(keepsake) == "an " + words) << words;
         EXPECT_EQ(canBeHugged(keepsake), words != "balloon");
     }
-}
-
-TEST(WumbleAccessory, isNamedWithItsArticleWhereThereIsOnlyOneOfIt) {
-    EXPECT_EQ(name(WumbleAccessory::glasses), "round glasses");
-    EXPECT_EQ(name(WumbleAccessory::headphones), "headphones");
-    EXPECT_EQ(name(WumbleAccessory::partyHat), "a party hat");
-    EXPECT_EQ(std::ranges::count_if(allCases<WumbleAccessory>(),
-                                    [](auto accessory) { return name(accessory).starts_with("a "); }),
-              13);
-}
-
-TEST(RevealStep, comesInTheOrderOfItsNumbers) {
-    Counter number = 1;
-    for (const auto step : revealSteps) {
-        EXPECT_EQ(static_cast<Counter>(step), number++) << title(step);
-        EXPECT_FALSE(title(step).empty());
-    }
-    EXPECT_EQ(title(personalityShows), "tiny paws");
-    EXPECT_LT(RevealStep::expression, personalityShows);
 }
 
 } // namespace
