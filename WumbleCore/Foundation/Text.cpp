@@ -47,4 +47,17 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
+std::size_t wordCount(std::string_view text) {
+    std::size_t count = 0;
+    bool isInWord = false;
+    while (!text.empty()) {
+        const auto space = sizeOfSpace([&](auto candidate) { return text.starts_with(candidate); });
+        const bool beginsWord = space == 0 && !isInWord;
+        count += beginsWord ? 1 : 0;
+        isInWord = space == 0;
+        text.remove_prefix(std::max(space, std::size_t{1}));
+    }
+    return count;
+}
+
 } // namespace wumble

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,9 @@ std::string capitalized(std::string_view text);
 
 /// Without the white space at both ends, that of Unicode included (a name may begin with a no-break space).
 std::string_view trimmed(std::string_view text);
+
+/// How many words stand between white space, that of Unicode included.
+std::size_t wordCount(std::string_view text);
 
 /// Without this ending, or as it stands when it ends otherwise.
 constexpr std::string_view withoutSuffix(std::string_view text, std::string_view suffix) {

@@ -50,16 +50,20 @@ Reply Replay::record(Arguments& arguments) {
                              {"day", encoder.encode(after)}});
 }
 
-Reply Replay::story(Arguments& arguments) {
-    const auto key = arguments.required<std::string>("day");
-    const auto day = life_.days.find(key);
+WumbleDay Replay::storedDay(Arguments& arguments) const {
+    const auto day = life_.days.find(arguments.required<std::string>("day"));
     if (day == life_.days.end()) {
         arguments.fail("day", "isn't a day that is stored");
+        return {};
     }
+    return day->second;
+}
+
+Reply Replay::story(Arguments& arguments) {
+    const auto pet = storedDay(arguments);
     if (!arguments.failure().empty()) {
         return Failure{arguments.failure()};
     }
-    const auto& pet = day->second;
     Json::Object reply{{"story", storyJson(pet.story(history_, calendar_))},
                        {"revealTimes", encoder.encode(pet.revealTimes(history_, calendar_))},
                        {"detail", pet.revealDetail()}};

@@ -2,6 +2,7 @@
 
 #include "WumbleCore/Engine/BreakEngine.h"
 #include "WumbleCore/Life/Recap.h"
+#include "WumbleCore/Words/BreakWordPicker.h"
 #include "tools/wumble-replay/Arguments.h"
 
 #include <optional>
@@ -85,6 +86,10 @@ private:
     Reply recaps(Arguments& arguments);
     Reply markSeen(Arguments& arguments);
 
+    Reply words(Arguments& arguments);
+    Reply newPicker(Arguments& arguments);
+    Reply format(Arguments& arguments);
+
     Reply choreography(Arguments& arguments);
     Reply jiggle(Arguments& arguments);
     Reply svg(Arguments& arguments);
@@ -96,6 +101,9 @@ private:
     Reply playback(Arguments& arguments);
     Reply appBundle(Arguments& arguments);
     Reply capturers(Arguments& arguments);
+
+    /// The kept pet of the key "day"; a failure when there is none.
+    WumbleDay storedDay(Arguments& arguments) const;
 
     BreakEngine makeEngine(const WumbleSettings& settings, Date now);
 
@@ -109,6 +117,7 @@ private:
     Date lastNow_;
     std::vector<BreakRecord> history_;
     WumbleLife life_;
+    BreakWordPicker picker_;
     bool hadErrors_ = false;
 };
 
