@@ -32,7 +32,7 @@ struct WumbleLife {
 
     bool operator==(const WumbleLife&) const = default;
 
-    /// The pet of that day, or absent when none was made.
+    /// The pet of that day; null when none was made.
     const WumbleDay* day(CivilDay day) const;
 
     /// The pet of the date's day, made and kept when there is none yet.

@@ -76,16 +76,22 @@ TEST(Storage, givesBackWhatWasSavedWithDatesCutToSeconds) {
     EXPECT_FALSE(storage.hasSavedSettings());
     EXPECT_EQ(storage.loadSettings(), WumbleSettings{});
     EXPECT_FALSE(storage.loadSnapshot());
+    EXPECT_EQ(storage.loadLife(), WumbleLife{});
     EXPECT_TRUE(storage.loadHistory().empty());
 
     auto snapshot = someSnapshot();
     snapshot.savedAt = snapshot.savedAt + 0.75;
     storage.save(settingsWith(1500));
     storage.save(snapshot);
+    WumbleLife life{.name = "Momo"};
+    life.today(snapshot.savedAt, Calendar());
+    storage.save(life);
+    EXPECT_EQ(storage.loadLife(), life);
     EXPECT_TRUE(storage.hasSavedSettings());
     EXPECT_EQ(storage.loadSettings(), settingsWith(1500));
     EXPECT_EQ(storage.loadSnapshot(), someSnapshot());
-    EXPECT_EQ(namesIn(storage.directory()), (std::vector<std::string>{"engine.json", "settings.json"}));
+    EXPECT_EQ(namesIn(storage.directory()),
+              (std::vector<std::string>{"engine.json", "settings.json", "wumble.json"}));
 }
 
 TEST(Storage, writesSortedKeysWithoutSpacesAndOneLineARecord) {
@@ -121,12 +127,13 @@ TEST(Storage, treatsWhatCantBeReadAsMissingAndLeavesItAlone) {
           std::string("{\"savedAt\":\"\xC3\x28\"}"), std::string(100'000, '[')}) {
         const TemporaryFolder folder;
         const Storage storage(folder.path());
-        for (const auto* name : {"settings.json", "engine.json", "history.jsonl"}) {
+        for (const auto* name : {"settings.json", "engine.json", "wumble.json", "history.jsonl"}) {
             test::write(folder / name, garbage);
         }
         EXPECT_TRUE(storage.hasSavedSettings());
         EXPECT_EQ(storage.loadSettings(), WumbleSettings{});
         EXPECT_FALSE(storage.loadSnapshot());
+        EXPECT_EQ(storage.loadLife(), WumbleLife{});
         EXPECT_TRUE(storage.loadHistory().empty());
         EXPECT_EQ(bytesOf(folder / "settings.json"), garbage);
     }
