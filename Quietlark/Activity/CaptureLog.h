@@ -56,7 +56,6 @@ private:
     void heard(std::vector<std::string> capturers);
     void ended();
     void retryLater();
-    bool changeLatest(Attributions latest);
 
     std::function<void()> _onChange;
     std::function<wumble::Date()> _now;

@@ -17,8 +17,8 @@ namespace quietlark {
 class SmartPauseDetector {
 public:
     /// Both must outlive it. Reads are of what the platform's sources hold since their last refresh.
-    SmartPauseDetector(Platform& platform, CaptureLog& captureLog)
-        : _platform(platform), captureLog(captureLog) {}
+    SmartPauseDetector(Platform& platform, const CaptureLog& captureLog)
+        : _platform(platform), _captureLog(captureLog) {}
 
     /// Looks at everything once, keeps what was seen in `status`, and picks the one activity that counts.
     std::optional<wumble::SmartActivity> poll(const wumble::WumbleSettings& settings, wumble::Date now);
@@ -29,9 +29,12 @@ public:
     /// Of the last poll.
     const DetectorStatus& status() const { return _status; }
 
+    /// The person said that what watches now is no share. Lasts for this one capture.
+    bool ignoreCurrentCapture = false;
+
 private:
     struct MicrophoneReading {
-        std::vector<AppRef> kept; ///< who records and is no dictation tool
+        std::vector<AppRef> kept; ///< who records and is no dictation tool, by the name to show
         bool inUse = false;
         bool dictating = false;
     };
@@ -41,25 +44,19 @@ private:
     };
 
     MicrophoneReading readMicrophone(const wumble::WumbleSettings& settings) const;
-    std::optional<std::string> meetingApp(const DetectorStatus& status,
-                                          const std::vector<AppRef>& kept) const;
-    void readCapture(DetectorStatus& status, const std::vector<AppRef>& kept, wumble::Date now);
+    std::optional<std::string> meetingApp(const DetectorStatus& status) const;
+    void readCapture(DetectorStatus& status, const std::optional<AppRef>& front, wumble::Date now);
     std::optional<std::string> captureName(const std::string& id) const;
     std::optional<std::string> captureAppWithoutWord(const DetectorStatus& status,
-                                                     const std::vector<AppRef>& kept) const;
+                                                     const std::optional<AppRef>& front) const;
     void readVideo(DetectorStatus& status, const wumble::WumbleSettings& settings,
                    const std::optional<AppRef>& front);
     std::optional<std::string> gameName(const AppRef& app);
 
     Platform& _platform;
+    const CaptureLog& _captureLog;
     DetectorStatus _status;
     std::map<int, Inspected> _gameCache;
-
-public:
-    CaptureLog& captureLog;
-
-    /// The person said that what watches now is no share. Lasts for this one capture.
-    bool ignoreCurrentCapture = false;
 };
 
 } // namespace quietlark
