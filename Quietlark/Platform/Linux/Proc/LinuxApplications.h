@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Quietlark/Platform/Applications.h"
+#include "Quietlark/Platform/Linux/Proc/AppIdentity.h"
+#include "Quietlark/Platform/Linux/Proc/DesktopEntries.h"
+#include "Quietlark/Platform/Linux/Proc/Processes.h"
+
+#include <map>
+
+namespace quietlark {
+
+/// Programs found by their windows and by the processes of this person.
+class LinuxApplications final : public Applications {
+public:
+    /// All must outlive it.
+    LinuxApplications(WindowSystem& windows, AppIdentity& identity, const Processes& processes,
+                      DesktopEntries& entries)
+        : _windows(windows), _identity(identity), _processes(processes), _entries(entries) {}
+
+    std::optional<AppRef> frontmost() override;
+    std::vector<AppRef> running() override;
+    bool isProcessRunning(std::string_view processName) override;
+    std::optional<std::string> executable(int pid) override { return _processes.executable(pid); }
+    AppInspection inspect(const AppRef& app) override;
+    bool frontmostFillsAScreen() override;
+
+private:
+    struct Known {
+        std::string executable;
+        AppRef app;
+    };
+
+    AppRef appOfProcess(int pid);
+
+    WindowSystem& _windows;
+    AppIdentity& _identity;
+    const Processes& _processes;
+    DesktopEntries& _entries;
+    std::map<int, Known> _known; ///< those of the last look at all processes
+    std::optional<std::pair<AppWindow, AppRef>> _front;
+};
+
+} // namespace quietlark
