@@ -20,40 +20,40 @@ int wholeMilliseconds(double seconds) {
 class QtTimer final : public MainLoop::Timer {
 public:
     QtTimer(const QtMainLoop& loop, double interval, double tolerance, MainLoop::Task task)
-        : _loop(loop), _interval(interval), _tolerance(tolerance), _task(std::move(task)),
-          _nextFire(loop.uptime() + interval) {
-        _timer.setSingleShot(true);
-        _timer.setTimerType(Qt::PreciseTimer);
-        _timer.callOnTimeout([this] { fire(); });
+        : loop_(loop), interval_(interval), tolerance_(tolerance), task_(std::move(task)),
+          nextFire_(loop.uptime() + interval) {
+        timer_.setSingleShot(true);
+        timer_.setTimerType(Qt::PreciseTimer);
+        timer_.callOnTimeout([this] { fire(); });
         wait();
     }
 
     void setNextFireDate(wumble::Date date) override {
-        _nextFire = _loop.uptime() + (date - _loop.now());
+        nextFire_ = loop_.uptime() + (date - loop_.now());
         wait();
     }
 
 private:
-    void wait() { _timer.start(wholeMilliseconds(_nextFire - _loop.uptime())); }
+    void wait() { timer_.start(wholeMilliseconds(nextFire_ - loop_.uptime())); }
 
     void fire() {
-        const double now = _loop.uptime();
-        if (now + _tolerance < _nextFire) {
+        const double now = loop_.uptime();
+        if (now + tolerance_ < nextFire_) {
             wait();
             return;
         }
-        const double missed = std::floor(std::max(0.0, now - _nextFire) / _interval);
-        _nextFire += (missed + 1) * _interval;
+        const double missed = std::floor(std::max(0.0, now - nextFire_) / interval_);
+        nextFire_ += (missed + 1) * interval_;
         wait();
-        _task();
+        task_();
     }
 
-    const QtMainLoop& _loop;
-    double _interval;
-    double _tolerance;
-    MainLoop::Task _task;
-    double _nextFire;
-    QTimer _timer;
+    const QtMainLoop& loop_;
+    double interval_;
+    double tolerance_;
+    MainLoop::Task task_;
+    double nextFire_;
+    QTimer timer_;
 };
 
 } // namespace
@@ -70,7 +70,7 @@ double QtMainLoop::uptime() const {
 }
 
 void QtMainLoop::after(double seconds, Task task) {
-    QTimer::singleShot(wholeMilliseconds(seconds), Qt::PreciseTimer, &_context, std::move(task));
+    QTimer::singleShot(wholeMilliseconds(seconds), Qt::PreciseTimer, &context_, std::move(task));
 }
 
 std::unique_ptr<MainLoop::Timer> QtMainLoop::repeating(double interval, double tolerance, Task task) {
@@ -78,7 +78,7 @@ std::unique_ptr<MainLoop::Timer> QtMainLoop::repeating(double interval, double t
 }
 
 void QtMainLoop::post(Task task) {
-    QMetaObject::invokeMethod(&_context, std::move(task), Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&context_, std::move(task), Qt::QueuedConnection);
 }
 
 } // namespace quietlark

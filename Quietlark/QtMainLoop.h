@@ -16,7 +16,7 @@ public:
     void post(Task task) override;
 
 private:
-    QObject _context; ///< what waits on it ends with it
+    QObject context_; ///< what waits on it ends with it
 };
 
 } // namespace quietlark

@@ -2,10 +2,10 @@
 
 namespace quietlark {
 
-ActivityMonitor::ActivityMonitor(SessionWatch& watch) : _watch(watch), _state(watch.state()) {
-    _watch.observe([this] { _state = _watch.state(); });
+ActivityMonitor::ActivityMonitor(SessionWatch& watch) : watch_(watch), state_(watch.state()) {
+    watch_.observe([this] { state_ = watch_.state(); });
 }
 
-ActivityMonitor::~ActivityMonitor() { _watch.observe({}); }
+ActivityMonitor::~ActivityMonitor() { watch_.observe({}); }
 
 } // namespace quietlark

@@ -13,13 +13,13 @@ public:
     ActivityMonitor(const ActivityMonitor&) = delete;
     ActivityMonitor& operator=(const ActivityMonitor&) = delete;
 
-    bool screenLocked() const { return _state.screenLocked; }
-    bool displaysAsleep() const { return _state.displaysAsleep; }
-    bool systemAsleep() const { return _state.systemAsleep; }
+    bool screenLocked() const { return state_.screenLocked; }
+    bool displaysAsleep() const { return state_.displaysAsleep; }
+    bool systemAsleep() const { return state_.systemAsleep; }
 
 private:
-    SessionWatch& _watch;
-    SessionState _state;
+    SessionWatch& watch_;
+    SessionState state_;
 };
 
 } // namespace quietlark

@@ -19,61 +19,61 @@ constexpr std::size_t longestLine = 1 << 20;
 } // namespace
 
 CaptureLog::CaptureLog(std::unique_ptr<CaptureLogRunner> runner, std::function<wumble::Date()> now)
-    : _now(std::move(now)), _runner(std::move(runner)), _queue("quietlark.capture-log") {}
+    : now_(std::move(now)), runner_(std::move(runner)), queue_("quietlark.capture-log") {}
 
 CaptureLog::~CaptureLog() {
     stop();
-    _queue.sync();
+    queue_.sync();
 }
 
 void CaptureLog::start() {
-    _queue.async([this] { launch(); });
+    queue_.async([this] { launch(); });
 }
 
 void CaptureLog::stop() {
-    _queue.async([this] {
-        _stopped = true;
-        _runner->terminate();
+    queue_.async([this] {
+        stopped_ = true;
+        runner_->terminate();
     });
 }
 
 void CaptureLog::lookBackNow() {
-    _queue.async([this] { lookBack(); });
+    queue_.async([this] { lookBack(); });
 }
 
 std::optional<std::vector<std::string>> CaptureLog::latest() const {
-    const std::lock_guard guard(_lock);
-    return _latest;
+    const std::lock_guard guard(lock_);
+    return latest_;
 }
 
 std::optional<wumble::Date> CaptureLog::settleUntil() const {
-    const std::lock_guard guard(_lock);
-    return _settleUntil;
+    const std::lock_guard guard(lock_);
+    return settleUntil_;
 }
 
 void CaptureLog::launch() {
-    if (_stopped || _streaming) {
+    if (stopped_ || streaming_) {
         return;
     }
-    _buffer.clear();
-    _streaming = _runner->launch(
-        [this](std::string bytes) { _queue.async([this, bytes = std::move(bytes)] { received(bytes); }); },
-        [this] { _queue.async([this] { ended(); }); });
-    if (!_streaming) {
+    buffer_.clear();
+    streaming_ = runner_->launch(
+        [this](std::string bytes) { queue_.async([this, bytes = std::move(bytes)] { received(bytes); }); },
+        [this] { queue_.async([this] { ended(); }); });
+    if (!streaming_) {
         retryLater();
         return;
     }
     {
-        const std::lock_guard guard(_lock);
-        _heardLive = false;
-        _settleUntil = _now() + settleSeconds;
+        const std::lock_guard guard(lock_);
+        heardLive_ = false;
+        settleUntil_ = now_() + settleSeconds;
     }
     lookBack();
 }
 
 void CaptureLog::lookBack() {
     Attributions lastWord;
-    std::istringstream lines(_runner->lookBack().value_or(""));
+    std::istringstream lines(runner_->lookBack().value_or(""));
     for (std::string line; std::getline(lines, line);) {
         if (auto capturers = CaptureAttribution::screenCapturersInLogLine(line)) {
             lastWord = std::move(capturers);
@@ -81,61 +81,61 @@ void CaptureLog::lookBack() {
     }
     bool changed = false;
     {
-        const std::lock_guard guard(_lock);
-        _settleUntil.reset();
+        const std::lock_guard guard(lock_);
+        settleUntil_.reset();
         // What the stream said since is newer than anything that the look back can find.
-        if (!_heardLive && lastWord != _latest) {
-            _latest = std::move(lastWord);
+        if (!heardLive_ && lastWord != latest_) {
+            latest_ = std::move(lastWord);
             changed = true;
         }
     }
-    if (changed && _onChange) {
-        _onChange();
+    if (changed && onChange_) {
+        onChange_();
     }
 }
 
 void CaptureLog::received(const std::string& bytes) {
-    _buffer += bytes;
+    buffer_ += bytes;
     std::size_t begin = 0;
-    for (std::size_t end = 0; (end = _buffer.find('\n', begin)) != std::string::npos; begin = end + 1) {
+    for (std::size_t end = 0; (end = buffer_.find('\n', begin)) != std::string::npos; begin = end + 1) {
         if (auto capturers = CaptureAttribution::screenCapturersInLogLine(
-                std::string_view(_buffer).substr(begin, end - begin))) {
+                std::string_view(buffer_).substr(begin, end - begin))) {
             heard(*std::move(capturers));
         }
     }
-    _buffer.erase(0, begin);
-    if (_buffer.size() > longestLine) {
-        _buffer.clear();
+    buffer_.erase(0, begin);
+    if (buffer_.size() > longestLine) {
+        buffer_.clear();
     }
 }
 
 void CaptureLog::heard(std::vector<std::string> capturers) {
     {
-        const std::lock_guard guard(_lock);
-        _heardLive = true;
-        _settleUntil.reset();
-        if (_latest == capturers) {
+        const std::lock_guard guard(lock_);
+        heardLive_ = true;
+        settleUntil_.reset();
+        if (latest_ == capturers) {
             return;
         }
-        _latest = std::move(capturers);
+        latest_ = std::move(capturers);
     }
-    if (_onChange) {
-        _onChange();
+    if (onChange_) {
+        onChange_();
     }
 }
 
 void CaptureLog::ended() {
-    _streaming = false;
+    streaming_ = false;
     retryLater();
 }
 
 void CaptureLog::retryLater() {
-    if (_stopped) {
+    if (stopped_) {
         return;
     }
-    const double wait = std::min(std::ldexp(firstRetrySeconds, _failures), longestRetrySeconds);
-    ++_failures;
-    _queue.after(wait, [this] { launch(); });
+    const double wait = std::min(std::ldexp(firstRetrySeconds, failures_), longestRetrySeconds);
+    ++failures_;
+    queue_.after(wait, [this] { launch(); });
 }
 
 } // namespace quietlark

@@ -31,7 +31,7 @@ public:
     CaptureLog& operator=(const CaptureLog&) = delete;
 
     /// Called on the queue whenever `latest` has changed. Set before `start`.
-    void setOnChange(std::function<void()> onChange) { _onChange = std::move(onChange); }
+    void setOnChange(std::function<void()> onChange) { onChange_ = std::move(onChange); }
 
     void start();
 
@@ -57,22 +57,22 @@ private:
     void ended();
     void retryLater();
 
-    std::function<void()> _onChange;
-    std::function<wumble::Date()> _now;
+    std::function<void()> onChange_;
+    std::function<wumble::Date()> now_;
 
-    mutable std::mutex _lock; ///< guards the next three
-    Attributions _latest;
-    std::optional<wumble::Date> _settleUntil;
-    bool _heardLive = false;
+    mutable std::mutex lock_; ///< guards the next three
+    Attributions latest_;
+    std::optional<wumble::Date> settleUntil_;
+    bool heardLive_ = false;
 
     // Below: the queue's alone.
-    std::unique_ptr<CaptureLogRunner> _runner;
-    bool _streaming = false;
-    bool _stopped = false;
-    int _failures = 0;
-    std::string _buffer;
+    std::unique_ptr<CaptureLogRunner> runner_;
+    bool streaming_ = false;
+    bool stopped_ = false;
+    int failures_ = 0;
+    std::string buffer_;
 
-    SerialQueue _queue; ///< last, so that it ends first
+    SerialQueue queue_; ///< last, so that it ends first
 };
 
 } // namespace quietlark

@@ -11,26 +11,26 @@ constexpr std::size_t longestThreadName = 15;
 
 } // namespace
 
-SerialQueue::SerialQueue(const std::string& label) : _thread([this] { run(); }) {
-    pthread_setname_np(_thread.native_handle(), label.substr(0, longestThreadName).c_str());
+SerialQueue::SerialQueue(const std::string& label) : thread_([this] { run(); }) {
+    pthread_setname_np(thread_.native_handle(), label.substr(0, longestThreadName).c_str());
 }
 
 SerialQueue::~SerialQueue() {
     {
-        const std::lock_guard guard(_lock);
-        _ending = true;
+        const std::lock_guard guard(lock_);
+        ending_ = true;
     }
-    _changed.notify_one();
-    _thread.join();
+    changed_.notify_one();
+    thread_.join();
 }
 
 void SerialQueue::after(double seconds, Task task) {
     const auto delay = std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds));
     {
-        const std::lock_guard guard(_lock);
-        _tasks.emplace(Clock::now() + delay, std::move(task));
+        const std::lock_guard guard(lock_);
+        tasks_.emplace(Clock::now() + delay, std::move(task));
     }
-    _changed.notify_one();
+    changed_.notify_one();
 }
 
 void SerialQueue::sync() {
@@ -40,15 +40,15 @@ void SerialQueue::sync() {
 }
 
 void SerialQueue::run() {
-    std::unique_lock guard(_lock);
-    while (!_ending) {
-        if (_tasks.empty()) {
-            _changed.wait(guard);
-        } else if (const auto due = _tasks.begin()->first; due > Clock::now()) {
-            _changed.wait_until(guard, due);
+    std::unique_lock guard(lock_);
+    while (!ending_) {
+        if (tasks_.empty()) {
+            changed_.wait(guard);
+        } else if (const auto due = tasks_.begin()->first; due > Clock::now()) {
+            changed_.wait_until(guard, due);
         } else {
-            const Task task = std::move(_tasks.begin()->second);
-            _tasks.erase(_tasks.begin());
+            const Task task = std::move(tasks_.begin()->second);
+            tasks_.erase(tasks_.begin());
             guard.unlock();
             task();
             guard.lock();

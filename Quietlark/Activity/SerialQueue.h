@@ -37,11 +37,11 @@ private:
 
     void run();
 
-    std::mutex _lock;
-    std::condition_variable _changed;
-    std::multimap<Clock::time_point, Task> _tasks;
-    bool _ending = false;
-    std::thread _thread; ///< last: it uses all of the above
+    std::mutex lock_;
+    std::condition_variable changed_;
+    std::multimap<Clock::time_point, Task> tasks_;
+    bool ending_ = false;
+    std::thread thread_; ///< last: it uses all of the above
 };
 
 } // namespace quietlark

@@ -35,7 +35,7 @@ bool isSameProgram(const AppRef& a, const AppRef& b) {
 std::optional<wumble::SmartActivity> SmartPauseDetector::poll(const wumble::WumbleSettings& settings,
                                                               wumble::Date now) {
     DetectorStatus status;
-    const std::optional<AppRef> front = _platform.applications->frontmost();
+    const std::optional<AppRef> front = platform_.applications->frontmost();
     if (front) {
         status.frontmostName = front->name;
         status.frontmostBundleID = front->bundleID;
@@ -47,29 +47,29 @@ std::optional<wumble::SmartActivity> SmartPauseDetector::poll(const wumble::Wumb
     for (const AppRef& app : microphone.kept) {
         addOnce(status.microphoneApps, app.name);
     }
-    status.cameraInUse = _platform.camera->inUse();
+    status.cameraInUse = platform_.camera->inUse();
     status.meetingApp = meetingApp(status);
 
     readCapture(status, front, now);
     if (front) {
         status.gameApp = gameName(*front);
-        status.gameFillsScreen = status.gameApp && _platform.applications->frontmostFillsAScreen();
+        status.gameFillsScreen = status.gameApp && platform_.applications->frontmostFillsAScreen();
     }
     readVideo(status, settings, front);
 
-    _status = std::move(status);
-    return DetectorRules::decide(_status, settings);
+    status_ = std::move(status);
+    return DetectorRules::decide(status_, settings);
 }
 
 void SmartPauseDetector::refreshDictation(const wumble::WumbleSettings& settings) {
-    _status.dictating = readMicrophone(settings).dictating;
+    status_.dictating = readMicrophone(settings).dictating;
 }
 
 SmartPauseDetector::MicrophoneReading
 SmartPauseDetector::readMicrophone(const wumble::WumbleSettings& settings) const {
-    auto apps = _platform.microphone->recordingApps();
+    auto apps = platform_.microphone->recordingApps();
     if (!apps) {
-        return {.inUse = _platform.microphone->physicalMicrophoneRunning()};
+        return {.inUse = platform_.microphone->physicalMicrophoneRunning()};
     }
     std::erase_if(*apps, [](const AppRef& app) { return DetectorRules::isAudioPlumbing(app.name); });
     MicrophoneReading reading;
@@ -89,22 +89,22 @@ std::optional<std::string> SmartPauseDetector::meetingApp(const DetectorStatus& 
         return status.microphoneApps.front();
     }
     if (status.microphoneInUse || status.cameraInUse) {
-        return DetectorRules::runningAppOf(DetectorRules::meetingApps, _platform.applications->running());
+        return DetectorRules::runningAppOf(DetectorRules::meetingApps, platform_.applications->running());
     }
     return std::nullopt;
 }
 
 void SmartPauseDetector::readCapture(DetectorStatus& status, const std::optional<AppRef>& front,
                                      wumble::Date now) {
-    const std::optional<bool> watched = _platform.screenWatch->isWatched();
+    const std::optional<bool> watched = platform_.screenWatch->isWatched();
     status.captureDetectionAvailable = watched.has_value();
-    const auto settleUntil = _captureLog.settleUntil();
+    const auto settleUntil = captureLog_.settleUntil();
     if (!watched.value_or(false) || (settleUntil && *settleUntil > now)) {
         // The person's word holds for one capture, and this one is over.
         ignoreCurrentCapture = false;
         return;
     }
-    const std::vector<std::string> watchers = _captureLog.latest().value_or(std::vector<std::string>{});
+    const std::vector<std::string> watchers = captureLog_.latest().value_or(std::vector<std::string>{});
     const auto ofKind = [&](CaptureAttribution::Kind kind) {
         return std::ranges::find_if(watchers,
                                     [&](const auto& id) { return CaptureAttribution::kind(id) == kind; });
@@ -127,7 +127,7 @@ std::optional<std::string> SmartPauseDetector::captureName(const std::string& id
     if (const auto known = CaptureAttribution::knownName(id)) {
         return std::string(*known);
     }
-    const std::vector<AppRef> running = _platform.applications->running();
+    const std::vector<AppRef> running = platform_.applications->running();
     const auto app =
         std::ranges::find_if(running, [&](const AppRef& candidate) { return candidate.bundleID == id; });
     if (app == running.end() || app->name.empty()) {
@@ -139,7 +139,7 @@ std::optional<std::string> SmartPauseDetector::captureName(const std::string& id
 std::optional<std::string>
 SmartPauseDetector::captureAppWithoutWord(const DetectorStatus& status,
                                           const std::optional<AppRef>& front) const {
-    Applications& applications = *_platform.applications;
+    Applications& applications = *platform_.applications;
     if (applications.isProcessRunning("CptHost")) {
         return "Zoom";
     }
@@ -161,30 +161,30 @@ SmartPauseDetector::captureAppWithoutWord(const DetectorStatus& status,
 }
 
 std::optional<std::string> SmartPauseDetector::gameName(const AppRef& app) {
-    const std::string executable = _platform.applications->executable(app.pid).value_or("");
-    const auto cached = _gameCache.find(app.pid);
-    if (cached != _gameCache.end() && cached->second.executable == executable) {
+    const std::string executable = platform_.applications->executable(app.pid).value_or("");
+    const auto cached = gameCache_.find(app.pid);
+    if (cached != gameCache_.end() && cached->second.executable == executable) {
         return cached->second.game;
     }
-    const AppInspection inspection = _platform.applications->inspect(app);
+    const AppInspection inspection = platform_.applications->inspect(app);
     const bool isGame = wumble::GameDetection::isGame(app.bundleID, inspection.categories, inspection.paths);
     const auto game = isGame ? std::optional(wumble::GameDetection::displayName(app.name)) : std::nullopt;
     // Without a process there is nothing that tells when a verdict has grown old.
     if (app.pid != 0) {
-        if (_gameCache.size() >= fullGameCache) {
-            _gameCache.clear();
+        if (gameCache_.size() >= fullGameCache) {
+            gameCache_.clear();
         }
-        _gameCache[app.pid] = {executable, game};
+        gameCache_[app.pid] = {executable, game};
     }
     return game;
 }
 
 void SmartPauseDetector::readVideo(DetectorStatus& status, const wumble::WumbleSettings& settings,
                                    const std::optional<AppRef>& front) {
-    for (const SleepHolder& holder : _platform.sleepHolders->displaySleepHolders()) {
+    for (const SleepHolder& holder : platform_.sleepHolders->displaySleepHolders()) {
         const AppRef& app = holder.app;
         if (wumble::VideoDetection::isPlayback(holder.reason) &&
-            !DetectorRules::isIgnoredSleepHolder(app.name, _platform.processName) &&
+            !DetectorRules::isIgnoredSleepHolder(app.name, platform_.processName) &&
             !DetectorRules::isListed(app, settings.videoExcludedApps) && !gameName(app)) {
             status.videoApp = DetectorRules::shownName(app.name);
             status.videoAppIsFrontmost = front && isSameProgram(app, *front);

@@ -18,7 +18,7 @@ class SmartPauseDetector {
 public:
     /// Both must outlive it. Reads are of what the platform's sources hold since their last refresh.
     SmartPauseDetector(Platform& platform, const CaptureLog& captureLog)
-        : _platform(platform), _captureLog(captureLog) {}
+        : platform_(platform), captureLog_(captureLog) {}
 
     /// Looks at everything once, keeps what was seen in `status`, and picks the one activity that counts.
     std::optional<wumble::SmartActivity> poll(const wumble::WumbleSettings& settings, wumble::Date now);
@@ -27,7 +27,7 @@ public:
     void refreshDictation(const wumble::WumbleSettings& settings);
 
     /// Of the last poll.
-    const DetectorStatus& status() const { return _status; }
+    const DetectorStatus& status() const { return status_; }
 
     /// The person said that what watches now is no share. Lasts for this one capture.
     bool ignoreCurrentCapture = false;
@@ -53,10 +53,10 @@ private:
                    const std::optional<AppRef>& front);
     std::optional<std::string> gameName(const AppRef& app);
 
-    Platform& _platform;
-    const CaptureLog& _captureLog;
-    DetectorStatus _status;
-    std::map<int, Inspected> _gameCache;
+    Platform& platform_;
+    const CaptureLog& captureLog_;
+    DetectorStatus status_;
+    std::map<int, Inspected> gameCache_;
 };
 
 } // namespace quietlark

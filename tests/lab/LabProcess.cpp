@@ -65,42 +65,42 @@ LabProcess::LabProcess(const std::vector<std::string>& command, const Environmen
     }
     const std::string program = command.front().substr(command.front().rfind('/') + 1);
     const std::string log = logFolder.empty() ? "" : logFolder + "/" + program + ".log";
-    _pid = fork();
-    if (_pid == 0) {
+    pid_ = fork();
+    if (pid_ == 0) {
         become(command, environment, input[0], output[1], log, keepOpen);
     }
     close(output[1]);
     close(input[0]);
-    _output = output[0];
-    _input = input[1];
+    output_ = output[0];
+    input_ = input[1];
 }
 
 LabProcess::~LabProcess() {
     end();
-    close(_output);
-    close(_input);
+    close(output_);
+    close(input_);
 }
 
 std::optional<std::string> LabProcess::readLine(double seconds) {
     const auto deadline = deadlineIn(seconds);
     for (;;) {
-        if (const std::size_t newline = _read.find('\n'); newline != std::string::npos) {
-            std::string line = _read.substr(0, newline);
-            _read.erase(0, newline + 1);
+        if (const std::size_t newline = read_.find('\n'); newline != std::string::npos) {
+            std::string line = read_.substr(0, newline);
+            read_.erase(0, newline + 1);
             return line;
         }
         const auto left =
             std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now()).count();
-        pollfd waiting{_output, POLLIN, 0};
+        pollfd waiting{output_, POLLIN, 0};
         if (left <= 0 || poll(&waiting, 1, static_cast<int>(left)) <= 0) {
             return std::nullopt;
         }
         char buffer[4096];
-        const ssize_t count = read(_output, buffer, sizeof buffer);
+        const ssize_t count = read(output_, buffer, sizeof buffer);
         if (count <= 0) {
             return std::nullopt;
         }
-        _read.append(buffer, static_cast<std::size_t>(count));
+        read_.append(buffer, static_cast<std::size_t>(count));
     }
 }
 
@@ -109,28 +109,28 @@ std::string LabProcess::readAll(double seconds) {
     while (const auto line = readLine(seconds)) {
         all += *line + "\n";
     }
-    return all + std::exchange(_read, {});
+    return all + std::exchange(read_, {});
 }
 
 void LabProcess::writeLine(const std::string& line) {
     const std::string text = line + "\n";
-    [[maybe_unused]] const ssize_t written = write(_input, text.data(), text.size());
+    [[maybe_unused]] const ssize_t written = write(input_, text.data(), text.size());
 }
 
 void LabProcess::signal(int number) const {
-    if (_pid > 0 && !_status) {
-        kill(_pid, number);
+    if (pid_ > 0 && !status_) {
+        kill(pid_, number);
     }
 }
 
 std::optional<int> LabProcess::reap(bool hang) {
-    if (_pid > 0 && !_status) {
+    if (pid_ > 0 && !status_) {
         int status = 0;
-        if (waitpid(_pid, &status, hang ? 0 : WNOHANG) == _pid) {
-            _status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+        if (waitpid(pid_, &status, hang ? 0 : WNOHANG) == pid_) {
+            status_ = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
         }
     }
-    return _status;
+    return status_;
 }
 
 std::optional<int> LabProcess::wait(double seconds) {
@@ -138,20 +138,20 @@ std::optional<int> LabProcess::wait(double seconds) {
     while (!reap(false) && Clock::now() < deadline) {
         std::this_thread::sleep_for(5ms);
     }
-    return _status;
+    return status_;
 }
 
 void LabProcess::end() {
-    if (_pid <= 0 || reap(false)) {
+    if (pid_ <= 0 || reap(false)) {
         return;
     }
-    kill(-_pid, SIGCONT);
-    kill(-_pid, SIGTERM);
+    kill(-pid_, SIGCONT);
+    kill(-pid_, SIGTERM);
     if (!wait(2)) {
-        kill(-_pid, SIGKILL);
+        kill(-pid_, SIGKILL);
         reap(true);
     }
-    kill(-_pid, SIGKILL);
+    kill(-pid_, SIGKILL);
 }
 
 bool isInstalled(const std::string& program) {

@@ -21,7 +21,7 @@ public:
     LabProcess(const LabProcess&) = delete;
     LabProcess& operator=(const LabProcess&) = delete;
 
-    int pid() const { return _pid; }
+    int pid() const { return pid_; }
 
     /// The next line of its output without the newline; absent when the output ends or `seconds` have passed.
     std::optional<std::string> readLine(double seconds = 10);
@@ -41,11 +41,11 @@ public:
 private:
     std::optional<int> reap(bool hang);
 
-    int _pid = -1;
-    int _output = -1;
-    int _input = -1;
-    std::string _read;
-    std::optional<int> _status;
+    int pid_ = -1;
+    int output_ = -1;
+    int input_ = -1;
+    std::string read_;
+    std::optional<int> status_;
 };
 
 /// Whether a program of this name is on the path.

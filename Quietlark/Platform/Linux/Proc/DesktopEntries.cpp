@@ -104,40 +104,40 @@ std::vector<std::filesystem::path> DesktopEntries::sessionFolders() {
 
 const DesktopEntry* DesktopEntries::withID(std::string_view id) {
     readIfChanged();
-    const auto found = _byID.find(lowerCased(wumble::withoutSuffix(id, ".desktop")));
-    return found == _byID.end() ? nullptr : &found->second;
+    const auto found = byID_.find(lowerCased(wumble::withoutSuffix(id, ".desktop")));
+    return found == byID_.end() ? nullptr : &found->second;
 }
 
 const DesktopEntry* DesktopEntries::withWindowClass(std::string_view windowClass) {
     readIfChanged();
-    const auto found = _byClass.find(lowerCased(windowClass));
-    return withID(found == _byClass.end() ? windowClass : std::string_view(found->second));
+    const auto found = byClass_.find(lowerCased(windowClass));
+    return withID(found == byClass_.end() ? windowClass : std::string_view(found->second));
 }
 
 const DesktopEntry* DesktopEntries::withExecutable(std::string_view path) {
     readIfChanged();
-    auto found = _byExecutable.find(path);
-    if (found == _byExecutable.end()) {
-        found = _byExecutable.find(fileName(path));
+    auto found = byExecutable_.find(path);
+    if (found == byExecutable_.end()) {
+        found = byExecutable_.find(fileName(path));
     }
-    return found == _byExecutable.end() ? nullptr : withID(found->second);
+    return found == byExecutable_.end() ? nullptr : withID(found->second);
 }
 
 void DesktopEntries::readIfChanged() {
     std::vector<std::filesystem::file_time_type> changed;
-    for (const auto& folder : _folders) {
+    for (const auto& folder : folders_) {
         std::error_code missing;
         const auto time = std::filesystem::last_write_time(folder / "applications", missing);
         changed.push_back(missing ? std::filesystem::file_time_type::min() : time);
     }
-    if (changed == _read) {
+    if (changed == read_) {
         return;
     }
-    _read = std::move(changed);
-    _byID.clear();
-    _byClass.clear();
-    _byExecutable.clear();
-    for (const auto& folder : _folders) {
+    read_ = std::move(changed);
+    byID_.clear();
+    byClass_.clear();
+    byExecutable_.clear();
+    for (const auto& folder : folders_) {
         readFolder(folder / "applications");
     }
 }
@@ -159,22 +159,22 @@ void DesktopEntries::readFolder(const std::filesystem::path& folder) {
 
 void DesktopEntries::add(DesktopEntry entry) {
     const std::string key = lowerCased(entry.id);
-    const auto [place, isNew] = _byID.emplace(key, std::move(entry));
+    const auto [place, isNew] = byID_.emplace(key, std::move(entry));
     // The person's own folder comes first, and its entry stands in for the system's.
     if (!isNew) {
         return;
     }
     const DesktopEntry& added = place->second;
     if (!added.windowClass.empty()) {
-        _byClass.emplace(lowerCased(added.windowClass), key);
+        byClass_.emplace(lowerCased(added.windowClass), key);
     }
     const std::string program = fileName(added.executable);
     if (program.empty() || isLauncherOfOthers(program)) {
         return;
     }
     for (const std::string& name : {added.executable, program}) {
-        const auto [known, isFirst] = _byExecutable.emplace(name, key);
-        if (!isFirst && _byID.at(known->second).isHidden && !added.isHidden) {
+        const auto [known, isFirst] = byExecutable_.emplace(name, key);
+        if (!isFirst && byID_.at(known->second).isHidden && !added.isHidden) {
             known->second = key;
         }
     }

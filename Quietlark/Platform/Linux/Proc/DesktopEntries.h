@@ -25,7 +25,7 @@ struct DesktopEntry {
 class DesktopEntries {
 public:
     /// `folders`: where "applications" folders lie, the person's own first.
-    explicit DesktopEntries(std::vector<std::filesystem::path> folders) : _folders(std::move(folders)) {}
+    explicit DesktopEntries(std::vector<std::filesystem::path> folders) : folders_(std::move(folders)) {}
 
     /// The folders of this session, by its environment.
     static std::vector<std::filesystem::path> sessionFolders();
@@ -43,11 +43,11 @@ private:
     void readFolder(const std::filesystem::path& folder);
     void add(DesktopEntry entry);
 
-    std::vector<std::filesystem::path> _folders;
-    std::vector<std::filesystem::file_time_type> _read; ///< when each folder had changed last
-    std::map<std::string, DesktopEntry, std::less<>> _byID;
-    std::map<std::string, std::string, std::less<>> _byClass; ///< to identifiers
-    std::map<std::string, std::string, std::less<>> _byExecutable;
+    std::vector<std::filesystem::path> folders_;
+    std::vector<std::filesystem::file_time_type> read_; ///< when each folder had changed last
+    std::map<std::string, DesktopEntry, std::less<>> byID_;
+    std::map<std::string, std::string, std::less<>> byClass_; ///< to identifiers
+    std::map<std::string, std::string, std::less<>> byExecutable_;
 };
 
 } // namespace quietlark

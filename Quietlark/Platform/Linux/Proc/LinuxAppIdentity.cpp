@@ -53,28 +53,28 @@ LinuxAppIdentity::Clues LinuxAppIdentity::cluesOf(const AppHints& hints) const {
     clues.windowClass = hints.windowClass.value_or("");
     clues.shown = hints.name.value_or("");
     if (hints.pid > 0) {
-        clues.sandboxID = _processes.sandboxID(hints.pid).value_or("");
-        clues.executable = _processes.executable(hints.pid).value_or("");
-        clues.program = programName(_processes, hints.pid, clues.executable);
-        clues.process = _processes.name(hints.pid);
+        clues.sandboxID = processes_.sandboxID(hints.pid).value_or("");
+        clues.executable = processes_.executable(hints.pid).value_or("");
+        clues.program = programName(processes_, hints.pid, clues.executable);
+        clues.process = processes_.name(hints.pid);
     }
     return clues;
 }
 
 const DesktopEntry* LinuxAppIdentity::entryOf(const Clues& clues) {
-    if (const DesktopEntry* entry = _entries.withID(clues.appID)) {
+    if (const DesktopEntry* entry = entries_.withID(clues.appID)) {
         return entry;
     }
-    if (const DesktopEntry* entry = _entries.withID(clues.sandboxID)) {
+    if (const DesktopEntry* entry = entries_.withID(clues.sandboxID)) {
         return entry;
     }
-    if (const DesktopEntry* entry = _entries.withWindowClass(clues.windowClass)) {
+    if (const DesktopEntry* entry = entries_.withWindowClass(clues.windowClass)) {
         return entry;
     }
-    if (const DesktopEntry* entry = _entries.withExecutable(clues.executable)) {
+    if (const DesktopEntry* entry = entries_.withExecutable(clues.executable)) {
         return entry;
     }
-    return _entries.withExecutable(clues.program);
+    return entries_.withExecutable(clues.program);
 }
 
 AppRef LinuxAppIdentity::identify(const AppHints& hints) {

@@ -10,7 +10,7 @@ class LinuxAppIdentity final : public AppIdentity {
 public:
     /// Both must outlive it.
     LinuxAppIdentity(const Processes& processes, DesktopEntries& entries)
-        : _processes(processes), _entries(entries) {}
+        : processes_(processes), entries_(entries) {}
 
     AppRef identify(const AppHints& hints) override;
 
@@ -20,8 +20,8 @@ private:
     Clues cluesOf(const AppHints& hints) const;
     const DesktopEntry* entryOf(const Clues& clues);
 
-    const Processes& _processes;
-    DesktopEntries& _entries;
+    const Processes& processes_;
+    DesktopEntries& entries_;
 };
 
 } // namespace quietlark

@@ -32,30 +32,30 @@ std::string listedCategory(const std::string& category) {
 } // namespace
 
 std::optional<AppRef> LinuxApplications::frontmost() {
-    const auto window = _windows.frontWindow();
+    const auto window = windows_.frontWindow();
     if (!window) {
-        _front.reset();
+        front_.reset();
         return std::nullopt;
     }
-    if (!_front || _front->first != *window) {
-        _front = {*window, _identity.identify({.pid = window->pid, .windowClass = window->windowClass})};
+    if (!front_ || front_->first != *window) {
+        front_ = {*window, identity_.identify({.pid = window->pid, .windowClass = window->windowClass})};
     }
-    return _front->second;
+    return front_->second;
 }
 
 AppRef LinuxApplications::appOfProcess(int pid) {
-    const std::string executable = _processes.executable(pid).value_or("");
-    const auto known = _known.find(pid);
-    if (known != _known.end() && known->second.executable == executable) {
+    const std::string executable = processes_.executable(pid).value_or("");
+    const auto known = known_.find(pid);
+    if (known != known_.end() && known->second.executable == executable) {
         return known->second.app;
     }
-    return _identity.identify({.pid = pid});
+    return identity_.identify({.pid = pid});
 }
 
 std::vector<AppRef> LinuxApplications::running() {
     std::map<int, Known> seen;
     std::vector<AppRef> apps;
-    for (const int pid : _processes.ofThisPerson()) {
+    for (const int pid : processes_.ofThisPerson()) {
         AppRef app = appOfProcess(pid);
         const bool isAnotherOfOne = std::ranges::any_of(apps, [&](const AppRef& other) {
             return other.bundleID == app.bundleID && other.name == app.name;
@@ -63,24 +63,24 @@ std::vector<AppRef> LinuxApplications::running() {
         if (app.bundleID && !isAnotherOfOne) {
             apps.push_back(app);
         }
-        seen.emplace(pid, Known{_processes.executable(pid).value_or(""), std::move(app)});
+        seen.emplace(pid, Known{processes_.executable(pid).value_or(""), std::move(app)});
     }
-    _known = std::move(seen);
+    known_ = std::move(seen);
     return apps;
 }
 
 bool LinuxApplications::isProcessRunning(std::string_view processName) {
-    const auto pids = _processes.ofThisPerson();
-    return std::ranges::any_of(pids, [&](int pid) { return _processes.name(pid) == processName; });
+    const auto pids = processes_.ofThisPerson();
+    return std::ranges::any_of(pids, [&](int pid) { return processes_.name(pid) == processName; });
 }
 
 AppInspection LinuxApplications::inspect(const AppRef& app) {
     AppInspection inspection;
-    if (const auto executable = _processes.executable(app.pid)) {
+    if (const auto executable = processes_.executable(app.pid)) {
         inspection.paths.push_back(*executable);
         std::ranges::copy(wumble::AppBundle::appPaths(*executable), std::back_inserter(inspection.paths));
     }
-    if (const auto program = _processes.windowsProgram(app.pid)) {
+    if (const auto program = processes_.windowsProgram(app.pid)) {
         inspection.paths.push_back(*program);
     }
     std::vector<std::string> identifiers = app.aliases;
@@ -92,7 +92,7 @@ AppInspection LinuxApplications::inspect(const AppRef& app) {
         }
     }
     for (const std::string& id : identifiers) {
-        if (const DesktopEntry* entry = _entries.withID(id)) {
+        if (const DesktopEntry* entry = entries_.withID(id)) {
             std::ranges::transform(entry->categories, std::back_inserter(inspection.categories),
                                    listedCategory);
             break;
@@ -102,12 +102,12 @@ AppInspection LinuxApplications::inspect(const AppRef& app) {
 }
 
 bool LinuxApplications::frontmostFillsAScreen() {
-    const auto window = _windows.frontWindow();
+    const auto window = windows_.frontWindow();
     if (!window) {
         return false;
     }
-    const auto rectangles = _windows.rectanglesOfProgram(*window);
-    const auto displays = _windows.displays();
+    const auto rectangles = windows_.rectanglesOfProgram(*window);
+    const auto displays = windows_.displays();
     return wumble::GameDetection::fillsADisplay(rectangles, displays);
 }
 

@@ -15,12 +15,12 @@ public:
     /// All must outlive it.
     LinuxApplications(WindowSystem& windows, AppIdentity& identity, const Processes& processes,
                       DesktopEntries& entries)
-        : _windows(windows), _identity(identity), _processes(processes), _entries(entries) {}
+        : windows_(windows), identity_(identity), processes_(processes), entries_(entries) {}
 
     std::optional<AppRef> frontmost() override;
     std::vector<AppRef> running() override;
     bool isProcessRunning(std::string_view processName) override;
-    std::optional<std::string> executable(int pid) override { return _processes.executable(pid); }
+    std::optional<std::string> executable(int pid) override { return processes_.executable(pid); }
     AppInspection inspect(const AppRef& app) override;
     bool frontmostFillsAScreen() override;
 
@@ -32,12 +32,12 @@ private:
 
     AppRef appOfProcess(int pid);
 
-    WindowSystem& _windows;
-    AppIdentity& _identity;
-    const Processes& _processes;
-    DesktopEntries& _entries;
-    std::map<int, Known> _known; ///< those of the last look at all processes
-    std::optional<std::pair<AppWindow, AppRef>> _front;
+    WindowSystem& windows_;
+    AppIdentity& identity_;
+    const Processes& processes_;
+    DesktopEntries& entries_;
+    std::map<int, Known> known_; ///< those of the last look at all processes
+    std::optional<std::pair<AppWindow, AppRef>> front_;
 };
 
 } // namespace quietlark

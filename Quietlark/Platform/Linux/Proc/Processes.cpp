@@ -35,7 +35,7 @@ std::optional<std::string> between(const std::string& text, std::string_view bef
 std::vector<int> Processes::ofThisPerson() const {
     std::vector<int> result;
     std::error_code failed;
-    for (auto entry = std::filesystem::directory_iterator(_root, failed);
+    for (auto entry = std::filesystem::directory_iterator(root_, failed);
          !failed && entry != std::filesystem::directory_iterator(); entry.increment(failed)) {
         const auto pid = processNumber(entry->path().filename().string());
         struct stat owner {};
@@ -48,7 +48,7 @@ std::vector<int> Processes::ofThisPerson() const {
 
 std::optional<std::string> Processes::executable(int pid) const {
     std::error_code failed;
-    const auto path = std::filesystem::read_symlink(_root / std::to_string(pid) / "exe", failed);
+    const auto path = std::filesystem::read_symlink(root_ / std::to_string(pid) / "exe", failed);
     if (failed || pid <= 0) {
         return std::nullopt;
     }
@@ -57,7 +57,7 @@ std::optional<std::string> Processes::executable(int pid) const {
 }
 
 std::string Processes::contents(int pid, const char* file) const {
-    std::ifstream stream(_root / std::to_string(pid) / file, std::ios::binary);
+    std::ifstream stream(root_ / std::to_string(pid) / file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 

@@ -10,7 +10,7 @@ namespace quietlark {
 /// The processes of this machine, read from the system's process folder.
 class Processes {
 public:
-    explicit Processes(std::filesystem::path root = "/proc") : _root(std::move(root)) {}
+    explicit Processes(std::filesystem::path root = "/proc") : root_(std::move(root)) {}
 
     /// Those of this person, in no order.
     std::vector<int> ofThisPerson() const;
@@ -34,7 +34,7 @@ public:
 private:
     std::string contents(int pid, const char* file) const;
 
-    std::filesystem::path _root;
+    std::filesystem::path root_;
 };
 
 } // namespace quietlark
