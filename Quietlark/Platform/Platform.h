@@ -21,6 +21,7 @@ namespace quietlark {
 
 /// Everything the program asks of the desktop. Whoever makes it fills every member.
 struct Platform {
+    std::shared_ptr<void> foundation; ///< what the members stand on together; it ends last
     std::unique_ptr<InputClock> input;
     std::unique_ptr<SessionWatch> session;
     std::unique_ptr<WindowSystem> windows;
