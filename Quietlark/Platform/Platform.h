@@ -12,6 +12,7 @@
 #include "Quietlark/Platform/SessionWatch.h"
 #include "Quietlark/Platform/SleepAssertion.h"
 #include "Quietlark/Platform/SleepHolders.h"
+#include "Quietlark/Platform/SoundOutput.h"
 #include "Quietlark/Platform/WindowSystem.h"
 
 #include <memory>
@@ -34,6 +35,7 @@ struct Platform {
     std::unique_ptr<SleepAssertion> sleepAssertion;
     std::unique_ptr<ScreenLock> screenLock;
     std::unique_ptr<CopyNotice> copyNotice;
+    std::unique_ptr<SoundOutput> soundOutput;
     std::string processName; ///< of this program, as others see it
 
     /// Whether each source has given its first answers.
