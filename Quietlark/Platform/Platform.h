@@ -42,7 +42,7 @@ struct Platform {
     bool ready() const;
 
     /// Brings every source up to date. Takes under 5 ms whatever the services do.
-    void refresh(double uptime);
+    void refresh(double uptime) const;
 };
 
 } // namespace quietlark

@@ -49,10 +49,10 @@ std::string environment(const char* name) {
 
 } // namespace
 
-AutostartEntry::AutostartEntry(std::filesystem::path folder, std::filesystem::path program,
+AutostartEntry::AutostartEntry(const std::filesystem::path& folder, std::filesystem::path program,
                                std::filesystem::path home)
-    : file_(std::move(folder) / "com.fernwick.quietlark.desktop"), program_(std::move(program)),
-      home_(std::move(home)) {}
+    : file_(folder / "com.fernwick.quietlark.desktop"), program_(std::move(program)), home_(std::move(home)) {
+}
 
 std::unique_ptr<LoginItem> AutostartEntry::ofThisSession() {
     const std::filesystem::path home = environment("HOME");

@@ -14,7 +14,8 @@ class AutostartEntry final : public LoginItem {
 public:
     /// `folder`: where the session looks for such files; made when it is first needed. `program`: the full path of
     /// this program. `home`: of the person.
-    AutostartEntry(std::filesystem::path folder, std::filesystem::path program, std::filesystem::path home);
+    AutostartEntry(const std::filesystem::path& folder, std::filesystem::path program,
+                   std::filesystem::path home);
 
     /// That of this session and this process.
     static std::unique_ptr<LoginItem> ofThisSession();
