@@ -21,7 +21,8 @@ constexpr int unknownOption = 64;
 constexpr std::array<std::string_view, 3> appearances{"light", "dark", "system"};
 
 /// What the program itself reads. An option named here is built; the others are refused.
-constexpr std::array<std::string_view, 1> runningOptions{"--appearance"};
+constexpr std::array<std::string_view, 3> runningOptions{"--appearance", "--demo-break",
+                                                         "--enable-launch-at-login"};
 
 bool has(const Arguments& arguments, std::string_view option) {
     return std::ranges::find(arguments, option) != arguments.end();
@@ -77,7 +78,8 @@ Command commandFor(const Arguments& arguments) {
         return command::Refuse{"Unknown option " + *unknown + ", so Quietlark isn't starting.\n",
                                unknownOption};
     }
-    return command::RunApplication{};
+    return command::RunApplication{.demoBreak = has(arguments, "--demo-break"),
+                                   .enableLaunchAtLogin = has(arguments, "--enable-launch-at-login")};
 }
 
 } // namespace quietlark

@@ -11,6 +11,8 @@ namespace command {
 
 /// The program itself.
 struct RunApplication {
+    bool demoBreak = false;           ///< show a short preview at once
+    bool enableLaunchAtLogin = false; ///< and tell in the program whether that worked
     bool operator==(const RunApplication&) const = default;
 };
 

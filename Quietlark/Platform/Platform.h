@@ -6,6 +6,7 @@
 #include "Quietlark/Platform/CaptureLogRunner.h"
 #include "Quietlark/Platform/CopyNotice.h"
 #include "Quietlark/Platform/InputClock.h"
+#include "Quietlark/Platform/LoginItem.h"
 #include "Quietlark/Platform/Microphone.h"
 #include "Quietlark/Platform/ScreenLock.h"
 #include "Quietlark/Platform/ScreenWatch.h"
@@ -36,6 +37,7 @@ struct Platform {
     std::unique_ptr<ScreenLock> screenLock;
     std::unique_ptr<CopyNotice> copyNotice;
     std::unique_ptr<SoundOutput> soundOutput;
+    std::unique_ptr<LoginItem> loginItem;
     std::string processName; ///< of this program, as others see it
 
     /// Whether each source has given its first answers.
