@@ -191,6 +191,7 @@ private:
     void judgeSurfaces(const AppState& state) {
         const bool works = std::holds_alternative<wumble::phase::Working>(state.phase.value());
         EXPECT_EQ(driver_.headsUp.isUp, state.headsUpVisible.value());
+        EXPECT_TRUE(!driver_.headsUp.isUp || driver_.model().shouldShowHeadsUp());
         EXPECT_EQ(driver_.overlay.isUp, state.breakScreen.value().has_value());
         EXPECT_TRUE(works || (!driver_.headsUp.isUp && !driver_.countdown.isUp));
         EXPECT_TRUE(!driver_.overlay.isUp || !driver_.headsUp.isUp);

@@ -56,6 +56,7 @@ TEST(Tick, savesTheEngineEveryFifteenthTime) {
     const auto snapshot = driver.model().storage().loadSnapshot();
     ASSERT_TRUE(snapshot);
     EXPECT_EQ(snapshot->workElapsed, 14);
+    EXPECT_EQ(snapshot->savedAt, at("2026-03-09T08:00:14Z"));
     driver.run(14);
     EXPECT_EQ(driver.model().storage().loadSnapshot(), snapshot);
 }
