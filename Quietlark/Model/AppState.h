@@ -11,6 +11,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quietlark {
@@ -62,6 +63,12 @@ struct AppState {
     QProperty<std::optional<SettingsTurn>> settingsTurn;
     QProperty<std::optional<std::string>> loginItemError; ///< why opening at login couldn't be switched
 };
+
+/// Calls `changed` after each change of a field, for as long as the answer lives.
+template <class Value, class Changed>
+[[nodiscard]] QPropertyNotifier observe(const QProperty<Value>& field, Changed changed) {
+    return {field, std::move(changed)};
+}
 
 /// Whether a moment lies ahead.
 inline bool isAhead(const std::optional<wumble::Date>& moment, wumble::Date now) {

@@ -133,10 +133,10 @@ public:
     std::vector<SleepHolder> displaySleepHolders() const override { return desktop_.sleepHolders; }
 };
 
-/// A log that says nothing.
+/// A log that can't be read: it never has a word on a capture, nor does anything wait for one.
 class SilentLog final : public CaptureLogRunner {
 public:
-    bool launch(Received, Ended) override { return true; }
+    bool launch(Received, Ended) override { return false; }
     std::optional<std::string> lookBack() override { return std::nullopt; }
     void terminate() override {}
 };

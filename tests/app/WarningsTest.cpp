@@ -51,6 +51,21 @@ TEST(Warnings, whoeverLeavesNeedsNoWarning) {
     EXPECT_EQ(driver.run(1), Told{"heads-up leaves"});
 }
 
+TEST(Warnings, aHeadsUpThatNoLongerTellsTheTruthLeaves) {
+    ModelDriver driver(warnAlways);
+    driver.run(toHeadsUp);
+    driver.model().update([](auto& settings) { settings.workInterval = 1500; });
+    EXPECT_EQ(driver.told(), Told{"heads-up leaves"});
+
+    ModelDriver caller([](auto& settings) {
+        warnAlways(settings);
+        settings.smartPauseAlerts = false;
+    });
+    caller.run(toHeadsUp);
+    caller.call();
+    EXPECT_EQ(caller.run(3), Told{"heads-up leaves"});
+}
+
 TEST(Warnings, othersDoNotSeeTheWarningUnlessThePersonChoseNotToWait) {
     ModelDriver driver([](auto& settings) {
         warnAlways(settings);
