@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <pipewire/impl.h>
 #include <pipewire/pipewire.h>
 #include <string_view>
 #include <utility>
