@@ -1,6 +1,6 @@
 #include "Quietlark/Platform/Linux/Audio/PulseSoundOutput.h"
 
-#include <QAbstractEventDispatcher>
+#include "Quietlark/Platform/Linux/Audio/GLibLoop.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,12 +19,6 @@ constexpr double longestConnecting = 3;
 
 /// Sounds often come in pairs; the connection waits this long for the second.
 constexpr double silenceBeforeDisconnecting = 1;
-
-/// The library's events are sources of GLib, and reach us only where Qt runs on GLib too.
-bool runsOnGLib() {
-    const QAbstractEventDispatcher* dispatcher = QAbstractEventDispatcher::instance();
-    return dispatcher != nullptr && dispatcher->inherits("QEventDispatcherGlib");
-}
 
 std::vector<std::int16_t> atVolume(const std::vector<std::int16_t>& samples, double volume) {
     std::vector<std::int16_t> result(samples.size());
