@@ -29,8 +29,10 @@ protected:
         manager.reset();
     }
 
+    /// A window that came while it is still starting would wait for seconds to be let in.
     void startWindowManager() {
-        manager = start({"openbox"});
+        manager = start({"openbox", "--startup", "echo started"});
+        manager->readLine();
         ASSERT_TRUE(until([this] { return desktop->windows().canActivate(); }));
     }
 
