@@ -56,7 +56,7 @@ protected:
 };
 
 constexpr auto nobody = "{\"eventMessage\":\"Active activity attributions changed to []\"}\n";
-constexpr auto gstreamer =
+constexpr const char* gstreamer =
     "{\"eventMessage\":\"Active activity attributions changed to [\\\"scr:gst-launch-1.0\\\"]\"}\n";
 
 } // namespace
@@ -75,7 +75,7 @@ TEST_F(ScreenCastTest, aScreenIsWatchedWhileSomebodyTakesItsPictures) {
     EXPECT_FALSE(isWatched());
     auto watcher = watch("screen");
     EXPECT_TRUE(eventually([&] { return isWatched(); }));
-    EXPECT_EQ(lines, gstreamer);
+    EXPECT_EQ(lines, std::string(gstreamer));
     EXPECT_EQ(runner.lookBack(), gstreamer);
     EXPECT_FALSE(services_.camera->inUse());
 
