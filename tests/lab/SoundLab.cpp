@@ -17,7 +17,8 @@ Environment SoundLab::environment() const {
     return {{"XDG_RUNTIME_DIR", folder},
             {"HOME", folder},
             {"XDG_CONFIG_HOME", folder},
-            {"XDG_STATE_HOME", folder}};
+            {"XDG_STATE_HOME", folder},
+            {"DBUS_SESSION_BUS_ADDRESS", bus_}};
 }
 
 std::unique_ptr<LabProcess> SoundLab::run(const std::vector<std::string>& command) const {
@@ -35,6 +36,8 @@ bool SoundLab::start() {
     const auto socket = [this](const char* name) {
         return [path = folder_ / name] { return access(path.c_str(), F_OK) == 0; };
     };
+    servers_.push_back(run({"dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address"}));
+    bus_ = servers_.back()->readLine().value_or("");
     servers_.push_back(run({"pipewire"}));
     if (!spinUntil(socket("pipewire-0"))) {
         return false;

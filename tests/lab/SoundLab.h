@@ -35,6 +35,7 @@ private:
     bool answers() const;
 
     wumble::test::TemporaryFolder folder_;
+    std::string bus_; ///< the session manager of the servers doesn't start without one
     std::vector<std::unique_ptr<LabProcess>> servers_;
 };
 

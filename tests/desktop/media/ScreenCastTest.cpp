@@ -43,8 +43,8 @@ protected:
     }
     std::unique_ptr<LabProcess> watch(const std::string& producer) {
         EXPECT_TRUE(eventually([&] { return !lab_.nodeID(producer).empty(); }));
-        return lab_.run(
-            {"gst-launch-1.0", "-q", "pipewiresrc", "path=" + lab_.nodeID(producer), "!", "fakesink"});
+        return lab_.run({"gst-launch-1.0", "-q", "pipewiresrc", "path=" + lab_.nodeID(producer), "!",
+                         "video/x-raw,format=BGRx", "!", "fakesink"});
     }
 
     SoundLab lab_;
@@ -56,7 +56,7 @@ protected:
 };
 
 constexpr auto nobody = "{\"eventMessage\":\"Active activity attributions changed to []\"}\n";
-constexpr auto gstreamer =
+constexpr const char* gstreamer =
     "{\"eventMessage\":\"Active activity attributions changed to [\\\"scr:gst-launch-1.0\\\"]\"}\n";
 
 } // namespace
@@ -75,8 +75,8 @@ TEST_F(ScreenCastTest, aScreenIsWatchedWhileSomebodyTakesItsPictures) {
     EXPECT_FALSE(isWatched());
     auto watcher = watch("screen");
     EXPECT_TRUE(eventually([&] { return isWatched(); }));
-    EXPECT_EQ(lines, gstreamer);
-    EXPECT_EQ(runner.lookBack(), gstreamer);
+    EXPECT_EQ(lines, std::string(gstreamer));
+    EXPECT_EQ(runner.lookBack(), std::string(gstreamer));
     EXPECT_FALSE(services_.camera->inUse());
 
     watcher->end();

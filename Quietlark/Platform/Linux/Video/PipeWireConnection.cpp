@@ -139,6 +139,8 @@ struct PipeWireConnection::Events {
 
 PipeWireConnection::PipeWireConnection(std::function<void()> changed) : changed_(std::move(changed)) {
     pw_init(nullptr, nullptr);
+    // What the library warns of is how little of it is used here.
+    pw_log_set_level(SPA_LOG_LEVEL_ERROR);
     loop_ = pw_loop_new(nullptr);
     pw_loop_enter(loop_);
     context_ = makeContext(loop_);
