@@ -8,7 +8,7 @@
 namespace quietlark {
 
 /// The one place where time comes from, and where work for later and work from other threads comes back to the
-/// main thread. Everything but `post` is called on the main thread only.
+/// main thread. Everything but `now` and `post` is called on the main thread only.
 class MainLoop {
 public:
     using Task = std::function<void()>;

@@ -31,7 +31,7 @@ AppModel::AppModel(std::filesystem::path folder, AppModelServices services)
                   [&loop = services_.mainLoop] { return loop.now(); }),
       detector_(services_.platform, captureLog_) {
     const wumble::Date now = takeTime();
-    state_.settings = storage_.loadSettings();
+    state_.settings = engine_.settings();
     if (const auto snapshot = storage_.loadSnapshot()) {
         engine_.restore(*snapshot, now);
     }
@@ -43,7 +43,7 @@ AppModel::AppModel(std::filesystem::path folder, AppModelServices services)
     state_.today = life.today(now, calendar(), services_.random);
     state_.life = std::move(life);
     state_.history = storage_.loadHistory();
-    saveLife();
+    storage_.save(state_.life.value());
     sync();
 }
 
@@ -73,7 +73,7 @@ void AppModel::start(Running running) {
 
 void AppModel::prepareForTermination() {
     storage_.save(engine_.snapshot(currentTime()));
-    saveLife();
+    storage_.save(state_.life.value());
     captureLog_.stop();
 }
 
@@ -83,6 +83,16 @@ wumble::Date AppModel::takeTime() {
     const wumble::Date now = currentTime();
     state_.now = now;
     return now;
+}
+
+/// What has changed is saved at once.
+void AppModel::changeLife(const std::function<void(wumble::WumbleLife&)>& change) {
+    auto life = state_.life.value();
+    change(life);
+    if (life != state_.life.value()) {
+        state_.life = std::move(life);
+        storage_.save(state_.life.value());
+    }
 }
 
 /// Runs the task unless the model is gone by then.

@@ -181,8 +181,7 @@ private:
     wumble::Date currentTime() const { return services_.mainLoop.now(); }
     wumble::Date takeTime();
     void later(double seconds, std::function<void()> task);
-    template <class Change> auto changeLife(Change change);
-    void saveLife() { storage_.save(state_.life.value()); }
+    void changeLife(const std::function<void(wumble::WumbleLife&)>& change);
     void play(wumble::Cue cue, double share = 1.0);
     void announce(const std::string& sentence);
     bool isAnybodyKeptOut() const;
@@ -204,7 +203,8 @@ private:
     void rememberPreviousApp();
     void keepMachineFor(const wumble::ActiveBreak& begun, bool resuming);
     void finish(const wumble::BreakRecord& record);
-    void finishWithoutScreen(const std::optional<std::string>& announcement);
+    void celebrate(const wumble::BreakRecord& finished, const std::optional<std::string>& gained);
+    void finishWithoutScreen(const std::optional<std::string>& gained);
     Growth record(const wumble::BreakRecord& record);
     std::optional<std::string> announcement(const Growth& growth) const;
     void releaseHeldReveal(double idleSeconds);
@@ -264,12 +264,5 @@ private:
         std::make_shared<const bool>(true); ///< held weakly by what wakes later
     std::unique_ptr<MainLoop::Timer> timer_;
 };
-
-template <class Change> auto AppModel::changeLife(Change change) {
-    auto life = state_.life.value();
-    const auto result = change(life);
-    state_.life = std::move(life);
-    return result;
-}
 
 } // namespace quietlark

@@ -110,10 +110,15 @@ void AppModel::finish(const wumble::BreakRecord& finished) {
     }
     state_.celebrateUntil = state_.now.value() + celebration;
     const auto gained = announcement(growth);
-    if (!hadScreen) {
+    if (hadScreen) {
+        celebrate(finished, gained);
+    } else {
         finishWithoutScreen(gained);
-        return;
     }
+}
+
+/// The reveal runs at once, or is held for a person who can't see it now.
+void AppModel::celebrate(const wumble::BreakRecord& finished, const std::optional<std::string>& gained) {
     state_.breakScreen = screen::Celebrating{finished, gained};
     if (isAnybodyKeptOut()) {
         heldReveal_ = HeldReveal{.finishedAt = state_.now.value(), .grew = gained.has_value()};
@@ -135,9 +140,9 @@ AppModel::Growth AppModel::record(const wumble::BreakRecord& record) {
     state_.history = std::move(history);
     storage_.append(record);
     const wumble::Counter before = state_.today.value().revealed();
-    state_.today = changeLife(
-        [&](wumble::WumbleLife& life) { return life.record(record, calendar(), services_.random); });
-    saveLife();
+    auto today = state_.today.value();
+    changeLife([&](wumble::WumbleLife& life) { today = life.record(record, calendar(), services_.random); });
+    state_.today = std::move(today);
     return {.before = before, .after = state_.today.value().revealed()};
 }
 

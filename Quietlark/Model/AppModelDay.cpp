@@ -25,9 +25,9 @@ void AppModel::rollDayIfNeeded() {
     if (heldReveal_) {
         closeBreakScreen();
     }
-    state_.today =
-        changeLife([&](wumble::WumbleLife& life) { return life.today(now, calendar(), services_.random); });
-    saveLife();
+    auto today = state_.today.value();
+    changeLife([&](wumble::WumbleLife& life) { today = life.today(now, calendar(), services_.random); });
+    state_.today = std::move(today);
     greetToday();
 }
 
@@ -38,8 +38,7 @@ void AppModel::greetToday() {
     if (life.welcomed == false || life.greetedDay == today.day || hidingFromCapture()) {
         return;
     }
-    changeLife([&](wumble::WumbleLife& changed) { return (changed.greetedDay = today.day).has_value(); });
-    saveLife();
+    changeLife([&](wumble::WumbleLife& changed) { changed.greetedDay = today.day; });
     // A day with a break behind it has no news to tell.
     if (today.rests == 0) {
         showUnlessCaptured(wumble::Toast::arrival(today));
@@ -68,9 +67,7 @@ void AppModel::announceFinishedRecaps() {
     announced.insert(recap.key);
     changeLife([&](wumble::WumbleLife& changed) {
         changed.announcedRecaps.emplace(announced.begin(), announced.end());
-        return true;
     });
-    saveLife();
     showUnlessCaptured(wumble::Toast::recap(recap.period, recap.start,
                                             static_cast<wumble::Counter>(recap.presentWumbles().size()),
                                             recap.completed));
@@ -88,11 +85,7 @@ std::optional<wumble::Recap> AppModel::unseenRecap() const {
 }
 
 void AppModel::markSeen(const wumble::Recap& recap) {
-    const bool changed = changeLife(
-        [&](wumble::WumbleLife& life) { return life.markRecapSeen(recap, currentTime(), calendar()); });
-    if (changed) {
-        saveLife();
-    }
+    changeLife([&](wumble::WumbleLife& life) { life.markRecapSeen(recap, currentTime(), calendar()); });
 }
 
 wumble::DaySummary AppModel::todaySummary() const {

@@ -24,11 +24,8 @@ void AppModel::update(const std::function<void(wumble::WumbleSettings&)>& transf
 }
 
 void AppModel::renameWumble(const std::string& name) {
-    changeLife([&](wumble::WumbleLife& life) {
-        life.name = name.empty() ? wumble::WumbleLife{}.name : name;
-        return true;
-    });
-    saveLife();
+    changeLife(
+        [&](wumble::WumbleLife& life) { life.name = name.empty() ? wumble::WumbleLife{}.name : name; });
 }
 
 void AppModel::completeWelcome(const std::optional<WelcomeRhythm>& rhythm, std::optional<bool> openAtLogin,
@@ -51,9 +48,7 @@ void AppModel::completeWelcome(const std::optional<WelcomeRhythm>& rhythm, std::
     changeLife([&](wumble::WumbleLife& life) {
         life.welcomed = true;
         life.greetedDay = state_.today.value().day;
-        return true;
     });
-    saveLife();
     const wumble::Date now = takeTime();
     if (after == AfterWelcome::wake) {
         engine_.start(now);
