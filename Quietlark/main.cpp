@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 
+#include <csignal>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -16,6 +17,8 @@ int main(int argumentCount, char** arguments) {
         std::fputs(refusal->complaint.c_str(), stderr);
         return refusal->status;
     }
+    // A service may end while something is being written to it; that is told by the write, not by the process's end.
+    std::signal(SIGPIPE, SIG_IGN);
     const QCoreApplication application(argumentCount, arguments);
     return wumble::match(
         asked, [](const command::RunApplication& options) { return runApplication(options); },

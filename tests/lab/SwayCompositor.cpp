@@ -27,8 +27,8 @@ std::vector<std::string> byAnOrdinaryUser(std::vector<std::string> command) {
 } // namespace
 
 SwayCompositor::SwayCompositor() {
-    wumble::test::write(_folder / "settings", settings);
-    if (geteuid() == 0 && chown(_folder.path().c_str(), nobody, nobody) != 0) {
+    wumble::test::write(folder_ / "settings", settings);
+    if (geteuid() == 0 && chown(folder_.path().c_str(), nobody, nobody) != 0) {
         return;
     }
     start();
@@ -42,24 +42,24 @@ void SwayCompositor::start() {
     compositor["WLR_RENDERER"] = "pixman";
     compositor["WAYLAND_DISPLAY"] = "";
     for (const char* leftover : {"wayland-1", "wayland-1.lock", "control"}) {
-        std::filesystem::remove(_folder / leftover);
+        std::filesystem::remove(folder_ / leftover);
     }
-    _process =
-        std::make_unique<LabProcess>(byAnOrdinaryUser({"sway", "-c", _folder / "settings"}), compositor);
-    _isUp = spinUntil([this] {
+    process_ =
+        std::make_unique<LabProcess>(byAnOrdinaryUser({"sway", "-c", folder_ / "settings"}), compositor);
+    isUp_ = spinUntil([this] {
         return run({"swaymsg", "-t", "get_outputs", "-r"}).find("HEADLESS-2") != std::string::npos;
     });
 }
 
 void SwayCompositor::kill() {
-    _process->signal(SIGKILL);
-    _process->wait();
+    process_->signal(SIGKILL);
+    process_->wait();
 }
 
 Environment SwayCompositor::environment() const {
-    const std::string folder = _folder.path().string();
+    const std::string folder = folder_.path().string();
     return {{"HOME", folder},           {"XDG_RUNTIME_DIR", folder},      {"XDG_CONFIG_HOME", folder},
-            {"XDG_CACHE_HOME", folder}, {"WAYLAND_DISPLAY", "wayland-1"}, {"SWAYSOCK", _folder / "control"}};
+            {"XDG_CACHE_HOME", folder}, {"WAYLAND_DISPLAY", "wayland-1"}, {"SWAYSOCK", folder_ / "control"}};
 }
 
 std::unique_ptr<LabProcess> SwayCompositor::open(const std::vector<std::string>& command) const {

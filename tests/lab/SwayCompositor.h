@@ -16,10 +16,10 @@ public:
     SwayCompositor();
 
     /// Whether it came up; waits for that.
-    bool isUp() const { return _isUp; }
+    bool isUp() const { return isUp_; }
 
     /// As in WAYLAND_DISPLAY.
-    std::string socket() const { return _folder / "wayland-1"; }
+    std::string socket() const { return folder_ / "wayland-1"; }
 
     /// Ends it at once, as a crash would; `start` begins another one on the same socket.
     void kill();
@@ -31,14 +31,14 @@ public:
     /// A short command's output.
     std::string run(const std::vector<std::string>& command) const;
 
-    LabProcess& process() { return *_process; }
+    LabProcess& process() { return *process_; }
 
 private:
     Environment environment() const;
 
-    wumble::test::TemporaryFolder _folder;
-    std::unique_ptr<LabProcess> _process;
-    bool _isUp = false;
+    wumble::test::TemporaryFolder folder_;
+    std::unique_ptr<LabProcess> process_;
+    bool isUp_ = false;
 };
 
 } // namespace quietlark::lab

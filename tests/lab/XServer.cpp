@@ -14,18 +14,18 @@ void XServer::start(const std::vector<std::string>& display) {
          {"-displayfd", "1", "-screen", "0", "1600x900x24", "-noreset", "-nolisten", "tcp"}) {
         command.emplace_back(option);
     }
-    _process = std::make_unique<LabProcess>(command);
-    _number = _process->readLine(30).value_or("");
+    process_ = std::make_unique<LabProcess>(command);
+    number_ = process_->readLine(30).value_or("");
 }
 
 void XServer::kill() {
-    _process->signal(SIGKILL);
-    _process->wait();
+    process_->signal(SIGKILL);
+    process_->wait();
 }
 
 void XServer::restart() {
     std::error_code ignored;
-    std::filesystem::remove("/tmp/.X" + _number + "-lock", ignored);
+    std::filesystem::remove("/tmp/.X" + number_ + "-lock", ignored);
     start({display()});
 }
 

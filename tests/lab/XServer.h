@@ -13,9 +13,9 @@ class XServer {
 public:
     XServer();
 
-    std::string display() const { return ":" + _number; }
+    std::string display() const { return ":" + number_; }
     Environment environment() const { return {{"DISPLAY", display()}}; }
-    LabProcess& process() { return *_process; }
+    LabProcess& process() { return *process_; }
 
     /// Ends it at once, as a crash would, with everything that lives on it.
     void kill();
@@ -29,8 +29,8 @@ public:
 private:
     void start(const std::vector<std::string>& display);
 
-    std::string _number;
-    std::unique_ptr<LabProcess> _process;
+    std::string number_;
+    std::unique_ptr<LabProcess> process_;
 };
 
 } // namespace quietlark::lab

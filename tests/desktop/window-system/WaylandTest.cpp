@@ -28,17 +28,17 @@ protected:
     }
 
     WaylandInputClock& input() {
-        if (!_input) {
-            _input =
+        if (!input_) {
+            input_ =
                 std::make_unique<WaylandInputClock>(desktop, EvdevInput("/nonexistent"), [] { return 77; });
         }
-        return *_input;
+        return *input_;
     }
     WaylandWindowSystem& windows() {
-        if (!_windows) {
-            _windows = std::make_unique<WaylandWindowSystem>(desktop);
+        if (!windows_) {
+            windows_ = std::make_unique<WaylandWindowSystem>(desktop);
         }
-        return *_windows;
+        return *windows_;
     }
 
     void refresh() { windows().refresh(test::uptime() + ahead); }
@@ -70,8 +70,8 @@ protected:
     double ahead = 0; ///< of the machine's own uptime
 
 private:
-    std::unique_ptr<WaylandInputClock> _input;
-    std::unique_ptr<WaylandWindowSystem> _windows;
+    std::unique_ptr<WaylandInputClock> input_;
+    std::unique_ptr<WaylandWindowSystem> windows_;
 };
 
 TEST_F(Wayland, idleTimeGrowsASecondAfterTheLastInputAndEndsWithTheNext) {

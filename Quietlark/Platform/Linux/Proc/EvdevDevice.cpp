@@ -47,8 +47,8 @@ bool isPressed(const std::array<unsigned char, KEY_CNT / CHAR_BIT>& keys, unsign
 } // namespace
 
 EvdevDevice::EvdevDevice(wumble::FileDescriptor file)
-    : _file(std::move(file)), _tellsTime(setClock(_file.get())) {
-    hearOnlyKeys(_file.get());
+    : file_(std::move(file)), tellsTime_(setClock(file_.get())) {
+    hearOnlyKeys(file_.get());
     lookAtButtons();
 }
 
@@ -60,7 +60,7 @@ std::optional<EvdevDevice> EvdevDevice::open(const std::string& path) {
 bool EvdevDevice::read(double uptime, const PressReader& reader) {
     std::array<input_event, batch> events{};
     for (int round = 0; round < mostBatches; ++round) {
-        const ssize_t size = ::read(_file.get(), events.data(), sizeof events);
+        const ssize_t size = ::read(file_.get(), events.data(), sizeof events);
         if (size < 0) {
             return errno != ENODEV && errno != EBADF && errno != EIO;
         }
@@ -84,7 +84,7 @@ void EvdevDevice::take(const input_event& event, double uptime, const PressReade
     }
     const bool isDown = event.value != 0;
     if (event.code == BTN_LEFT || event.code == BTN_RIGHT) {
-        (event.code == BTN_LEFT ? _leftHeld : _rightHeld) = isDown;
+        (event.code == BTN_LEFT ? leftHeld_ : rightHeld_) = isDown;
     }
     const bool isKey = event.code < BTN_MISC || event.code >= KEY_OK;
     if (isDown && isKey) {
@@ -99,14 +99,14 @@ void EvdevDevice::take(const input_event& event, double uptime, const PressReade
 /// Events were lost, or had happened before: what is held now is what the kernel says.
 void EvdevDevice::lookAtButtons() {
     std::array<unsigned char, KEY_CNT / CHAR_BIT> keys{};
-    const bool isKnown = ::ioctl(_file.get(), EVIOCGKEY(sizeof keys), keys.data()) >= 0;
-    _leftHeld = isKnown && isPressed(keys, BTN_LEFT);
-    _rightHeld = isKnown && isPressed(keys, BTN_RIGHT);
+    const bool isKnown = ::ioctl(file_.get(), EVIOCGKEY(sizeof keys), keys.data()) >= 0;
+    leftHeld_ = isKnown && isPressed(keys, BTN_LEFT);
+    rightHeld_ = isKnown && isPressed(keys, BTN_RIGHT);
 }
 
 /// By the event's own clock where that is known, else the time of reading it.
 double EvdevDevice::timeOf(const input_event& event, double uptime) const {
-    if (!_tellsTime) {
+    if (!tellsTime_) {
         return uptime;
     }
     const double told =

@@ -24,7 +24,7 @@ public:
     /// Takes what has come, up to a limit. False when the device is gone.
     bool read(double uptime, const PressReader& reader);
 
-    bool isHeld(Press button) const { return button == Press::leftButton ? _leftHeld : _rightHeld; }
+    bool isHeld(Press button) const { return button == Press::leftButton ? leftHeld_ : rightHeld_; }
 
 private:
     explicit EvdevDevice(wumble::FileDescriptor file);
@@ -33,10 +33,10 @@ private:
     void lookAtButtons();
     double timeOf(const input_event& event, double uptime) const;
 
-    wumble::FileDescriptor _file;
-    bool _tellsTime = false; ///< by a clock that is known
-    bool _leftHeld = false;
-    bool _rightHeld = false;
+    wumble::FileDescriptor file_;
+    bool tellsTime_ = false; ///< by a clock that is known
+    bool leftHeld_ = false;
+    bool rightHeld_ = false;
 };
 
 } // namespace quietlark

@@ -18,9 +18,9 @@ public:
     void refresh(double uptime);
 
     /// Seconds at the last refresh; absent while no device is readable, and before the first press.
-    std::optional<double> secondsSinceKeyDown() const { return since(_lastKeyDown); }
-    std::optional<double> secondsSinceLeftDown() const { return since(_lastLeftDown); }
-    std::optional<double> secondsSinceRightDown() const { return since(_lastRightDown); }
+    std::optional<double> secondsSinceKeyDown() const { return since(lastKeyDown_); }
+    std::optional<double> secondsSinceLeftDown() const { return since(lastLeftDown_); }
+    std::optional<double> secondsSinceRightDown() const { return since(lastRightDown_); }
     bool leftHeld() const { return isHeld(EvdevDevice::Press::leftButton); }
     bool rightHeld() const { return isHeld(EvdevDevice::Press::rightButton); }
 
@@ -32,14 +32,14 @@ private:
     bool isHeld(EvdevDevice::Press button) const;
     std::optional<double> since(std::optional<double> moment) const;
 
-    std::string _folder;
-    wumble::FileDescriptor _changes;
-    std::map<std::string, EvdevDevice> _devices;
-    std::optional<double> _lookedAt;
-    std::optional<double> _lastKeyDown;
-    std::optional<double> _lastLeftDown;
-    std::optional<double> _lastRightDown;
-    double _uptime = 0;
+    std::string folder_;
+    wumble::FileDescriptor changes_;
+    std::map<std::string, EvdevDevice> devices_;
+    std::optional<double> lookedAt_;
+    std::optional<double> lastKeyDown_;
+    std::optional<double> lastLeftDown_;
+    std::optional<double> lastRightDown_;
+    double uptime_ = 0;
 };
 
 } // namespace quietlark

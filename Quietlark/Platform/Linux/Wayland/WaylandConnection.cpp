@@ -59,17 +59,17 @@ std::unique_ptr<WaylandConnection> WaylandConnection::open(const std::string& so
 }
 
 WaylandConnection::WaylandConnection(wl_display* display, GlobalReader added, GlobalLoss removed)
-    : _display(display), _registry(wl_display_get_registry(display)), _added(std::move(added)),
-      _removed(std::move(removed)) {
+    : display_(display), registry_(wl_display_get_registry(display)), added_(std::move(added)),
+      removed_(std::move(removed)) {
     static constexpr wl_registry_listener listener{
         .global =
             [](void* self, wl_registry* registry, std::uint32_t name, const char* interface,
                std::uint32_t version) {
-                static_cast<WaylandConnection*>(self)->_added({registry, name, interface, version});
+                static_cast<WaylandConnection*>(self)->added_({registry, name, interface, version});
             },
         .global_remove = [](void* self, wl_registry*,
-                            std::uint32_t name) { static_cast<WaylandConnection*>(self)->_removed(name); }};
-    wl_registry_add_listener(_registry.get(), &listener, this);
+                            std::uint32_t name) { static_cast<WaylandConnection*>(self)->removed_(name); }};
+    wl_registry_add_listener(registry_.get(), &listener, this);
     beginCircle();
 }
 
@@ -77,16 +77,16 @@ WaylandConnection::WaylandConnection(wl_display* display, GlobalReader added, Gl
 void WaylandConnection::beginCircle() {
     static constexpr wl_callback_listener listener{.done = [](void* data, wl_callback*, std::uint32_t) {
         auto* self = static_cast<WaylandConnection*>(data);
-        if (--self->_circlesLeft > 0) {
+        if (--self->circlesLeft_ > 0) {
             self->beginCircle();
         }
     }};
-    _circle.reset(wl_display_sync(_display.get()));
-    wl_callback_add_listener(_circle.get(), &listener, this);
+    circle_.reset(wl_display_sync(display_.get()));
+    wl_callback_add_listener(circle_.get(), &listener, this);
 }
 
 bool WaylandConnection::takeOnce(bool mayWait, Clock::time_point deadline, bool& hasMore) {
-    wl_display* display = _display.get();
+    wl_display* display = display_.get();
     while (wl_display_prepare_read(display) != 0) {
         if (wl_display_dispatch_pending(display) < 0) {
             return false;

@@ -37,13 +37,13 @@ public:
     bool dispatch(std::chrono::microseconds patience);
 
     /// Sends what is to be sent, as far as the compositor takes it.
-    void flush() { wl_display_flush(_display.get()); }
+    void flush() { wl_display_flush(display_.get()); }
 
     /// Whether the compositor has told all that it offers, and of it what it tells unasked.
-    bool isComplete() const { return _circlesLeft == 0; }
+    bool isComplete() const { return circlesLeft_ == 0; }
 
     /// Whether it has told all that it offers.
-    bool knowsGlobals() const { return _circlesLeft < circles; }
+    bool knowsGlobals() const { return circlesLeft_ < circles; }
 
 private:
     struct Disconnect {
@@ -58,12 +58,12 @@ private:
     void beginCircle();
     bool takeOnce(bool mayWait, std::chrono::steady_clock::time_point deadline, bool& hasMore);
 
-    std::unique_ptr<wl_display, Disconnect> _display;
-    WaylandObject<wl_registry> _registry;
-    WaylandObject<wl_callback> _circle;
-    GlobalReader _added;
-    GlobalLoss _removed;
-    int _circlesLeft = circles;
+    std::unique_ptr<wl_display, Disconnect> display_;
+    WaylandObject<wl_registry> registry_;
+    WaylandObject<wl_callback> circle_;
+    GlobalReader added_;
+    GlobalLoss removed_;
+    int circlesLeft_ = circles;
 };
 
 } // namespace quietlark

@@ -19,64 +19,64 @@ void WaylandDesktop::Session::take(const WaylandGlobal& global) {
 }
 
 void WaylandDesktop::open(double uptime) {
-    _nextAttempt = uptime + attemptInterval;
+    nextAttempt_ = uptime + attemptInterval;
     auto session = std::make_unique<Session>();
     session->connection = WaylandConnection::open(
-        _socket, [self = session.get()](const WaylandGlobal& global) { self->take(global); },
+        socket_, [self = session.get()](const WaylandGlobal& global) { self->take(global); },
         [self = session.get()](std::uint32_t name) { self->outputs.lose(name); });
     if (session->connection) {
-        _session = std::move(session);
+        session_ = std::move(session);
     }
 }
 
 void WaylandDesktop::refresh(double uptime) {
-    if (_refreshedAt == uptime) {
+    if (refreshedAt_ == uptime) {
         return;
     }
-    _refreshedAt = uptime;
-    if (!_session && uptime >= _nextAttempt) {
+    refreshedAt_ = uptime;
+    if (!session_ && uptime >= nextAttempt_) {
         open(uptime);
     }
-    if (!_session) {
+    if (!session_) {
         return;
     }
-    _session->idle.setUptime(uptime);
-    if (!_session->connection->dispatch(patience)) {
-        _session.reset();
+    session_->idle.setUptime(uptime);
+    if (!session_->connection->dispatch(patience)) {
+        session_.reset();
         return;
     }
-    if (_session->connection->knowsGlobals()) {
-        _session->idle.begin(_session->seat.get());
-        _session->connection->flush();
+    if (session_->connection->knowsGlobals()) {
+        session_->idle.begin(session_->seat.get());
+        session_->connection->flush();
     }
 }
 
 std::optional<bool> WaylandDesktop::tellsIdleTime() const {
-    return _session && _session->connection->knowsGlobals() ? std::optional(_session->idle.isOffered())
+    return session_ && session_->connection->knowsGlobals() ? std::optional(session_->idle.isOffered())
                                                             : std::nullopt;
 }
 
 std::optional<double> WaylandDesktop::secondsSinceInput() const {
-    return _session ? _session->idle.secondsSinceInput() : std::nullopt;
+    return session_ ? session_->idle.secondsSinceInput() : std::nullopt;
 }
 
 std::optional<AppWindow> WaylandDesktop::frontWindow() const {
-    return _session ? _session->toplevels.front() : std::nullopt;
+    return session_ ? session_->toplevels.front() : std::nullopt;
 }
 
 std::vector<AppWindow> WaylandDesktop::windows() const {
-    return _session ? _session->toplevels.windows() : std::vector<AppWindow>{};
+    return session_ ? session_->toplevels.windows() : std::vector<AppWindow>{};
 }
 
 std::vector<wumble::Rect> WaylandDesktop::rectanglesOfProgram(const AppWindow& window) const {
-    return _session ? _session->toplevels.rectangles(window.windowClass, _session->outputs)
+    return session_ ? session_->toplevels.rectangles(window.windowClass, session_->outputs)
                     : std::vector<wumble::Rect>{};
 }
 
 std::vector<wumble::GameDetection::Display> WaylandDesktop::displays() const {
     std::vector<wumble::GameDetection::Display> result;
-    if (_session) {
-        for (const wumble::Rect& frame : _session->outputs.frames()) {
+    if (session_) {
+        for (const wumble::Rect& frame : session_->outputs.frames()) {
             result.push_back({frame, 0});
         }
     }
@@ -84,9 +84,9 @@ std::vector<wumble::GameDetection::Display> WaylandDesktop::displays() const {
 }
 
 void WaylandDesktop::activate(const AppWindow& window) {
-    if (_session) {
-        _session->toplevels.activate(window, _session->seat.get());
-        _session->connection->flush();
+    if (session_) {
+        session_->toplevels.activate(window, session_->seat.get());
+        session_->connection->flush();
     }
 }
 

@@ -16,13 +16,13 @@ namespace quietlark {
 class WaylandDesktop {
 public:
     /// As in WAYLAND_DISPLAY.
-    explicit WaylandDesktop(std::string socket) : _socket(std::move(socket)) {}
+    explicit WaylandDesktop(std::string socket) : socket_(std::move(socket)) {}
 
     /// A round; one for each uptime, however often it is called.
     void refresh(double uptime);
 
     /// Whether the compositor has told all that it tells unasked, or there is none.
-    bool ready() const { return _refreshedAt && (!_session || _session->connection->isComplete()); }
+    bool ready() const { return refreshedAt_ && (!session_ || session_->connection->isComplete()); }
 
     /// Whether this compositor tells when the person stops. Absent while there is none.
     std::optional<bool> tellsIdleTime() const;
@@ -48,10 +48,10 @@ private:
 
     void open(double uptime);
 
-    std::string _socket;
-    std::unique_ptr<Session> _session;
-    std::optional<double> _refreshedAt;
-    double _nextAttempt = 0;
+    std::string socket_;
+    std::unique_ptr<Session> session_;
+    std::optional<double> refreshedAt_;
+    double nextAttempt_ = 0;
 };
 
 } // namespace quietlark

@@ -33,10 +33,10 @@ WaylandIdle::~WaylandIdle() = default;
 
 void WaylandIdle::take(const WaylandGlobal& global) {
     if (global.interface == ext_idle_notifier_v1_interface.name) {
-        _notifier = waylandBind<ext_idle_notifier_v1>(
+        notifier_ = waylandBind<ext_idle_notifier_v1>(
             global.registry, global.name, ext_idle_notifier_v1_interface, global.version, notifierVersion);
     } else if (global.interface == org_kde_kwin_idle_interface.name) {
-        _kdeNotifier = waylandBind<org_kde_kwin_idle>(global.registry, global.name,
+        kdeNotifier_ = waylandBind<org_kde_kwin_idle>(global.registry, global.name,
                                                       org_kde_kwin_idle_interface, global.version, 1);
     }
 }
@@ -48,25 +48,25 @@ void WaylandIdle::begin(wl_seat* seat) {
     static constexpr org_kde_kwin_idle_timeout_listener kdeListener{
         .idle = [](void* self, org_kde_kwin_idle_timeout*) { static_cast<WaylandIdle*>(self)->stop(); },
         .resumed = [](void* self, org_kde_kwin_idle_timeout*) { static_cast<WaylandIdle*>(self)->resume(); }};
-    if (!seat || _notification || _kdeNotification) {
+    if (!seat || notification_ || kdeNotification_) {
         return;
     }
-    if (_notifier) {
-        _notification.reset(notification(_notifier.get(), seat));
-        ext_idle_notification_v1_add_listener(_notification.get(), &listener, this);
-    } else if (_kdeNotifier) {
-        _kdeNotification.reset(org_kde_kwin_idle_get_idle_timeout(_kdeNotifier.get(), seat, delay));
-        org_kde_kwin_idle_timeout_add_listener(_kdeNotification.get(), &kdeListener, this);
+    if (notifier_) {
+        notification_.reset(notification(notifier_.get(), seat));
+        ext_idle_notification_v1_add_listener(notification_.get(), &listener, this);
+    } else if (kdeNotifier_) {
+        kdeNotification_.reset(org_kde_kwin_idle_get_idle_timeout(kdeNotifier_.get(), seat, delay));
+        org_kde_kwin_idle_timeout_add_listener(kdeNotification_.get(), &kdeListener, this);
     }
 }
 
-void WaylandIdle::stop() { _stoppedAt = _uptime - delay / 1000.0; }
+void WaylandIdle::stop() { stoppedAt_ = uptime_ - delay / 1000.0; }
 
 std::optional<double> WaylandIdle::secondsSinceInput() const {
-    if (!_notification && !_kdeNotification) {
+    if (!notification_ && !kdeNotification_) {
         return {};
     }
-    return _stoppedAt ? _uptime - *_stoppedAt : 0;
+    return stoppedAt_ ? uptime_ - *stoppedAt_ : 0;
 }
 
 } // namespace quietlark

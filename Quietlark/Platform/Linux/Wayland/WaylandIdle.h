@@ -24,24 +24,24 @@ public:
     void begin(wl_seat* seat);
 
     /// Events that come from here on came at this time of the main loop.
-    void setUptime(double uptime) { _uptime = uptime; }
+    void setUptime(double uptime) { uptime_ = uptime; }
 
     /// Whether the compositor tells of it at all.
-    bool isOffered() const { return _notifier || _kdeNotifier; }
+    bool isOffered() const { return notifier_ || kdeNotifier_; }
 
     /// Absent while nobody tells.
     std::optional<double> secondsSinceInput() const;
 
 private:
     void stop();
-    void resume() { _stoppedAt.reset(); }
+    void resume() { stoppedAt_.reset(); }
 
-    WaylandObject<ext_idle_notifier_v1> _notifier;
-    WaylandObject<ext_idle_notification_v1> _notification;
-    WaylandObject<org_kde_kwin_idle> _kdeNotifier;
-    WaylandObject<org_kde_kwin_idle_timeout> _kdeNotification;
-    double _uptime = 0;
-    std::optional<double> _stoppedAt; ///< absent while the person is active
+    WaylandObject<ext_idle_notifier_v1> notifier_;
+    WaylandObject<ext_idle_notification_v1> notification_;
+    WaylandObject<org_kde_kwin_idle> kdeNotifier_;
+    WaylandObject<org_kde_kwin_idle_timeout> kdeNotification_;
+    double uptime_ = 0;
+    std::optional<double> stoppedAt_; ///< absent while the person is active
 };
 
 } // namespace quietlark

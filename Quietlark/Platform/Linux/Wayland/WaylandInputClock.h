@@ -18,31 +18,31 @@ public:
 
     /// `otherIdle` is asked where the compositor doesn't tell over its own connection; may be empty.
     WaylandInputClock(std::shared_ptr<WaylandDesktop> desktop, EvdevInput devices, OtherIdle otherIdle)
-        : _desktop(std::move(desktop)), _devices(std::move(devices)), _otherIdle(std::move(otherIdle)) {}
+        : desktop_(std::move(desktop)), devices_(std::move(devices)), otherIdle_(std::move(otherIdle)) {}
 
-    bool ready() const override { return _desktop->ready(); }
+    bool ready() const override { return desktop_->ready(); }
     void refresh(double uptime) override {
-        _desktop->refresh(uptime);
-        _devices.refresh(uptime);
+        desktop_->refresh(uptime);
+        devices_.refresh(uptime);
     }
     std::optional<double> secondsSinceAnyInput() const override {
-        const bool isOthersTask = _desktop->tellsIdleTime() == false && _otherIdle;
-        return isOthersTask ? _otherIdle() : _desktop->secondsSinceInput();
+        const bool isOthersTask = desktop_->tellsIdleTime() == false && otherIdle_;
+        return isOthersTask ? otherIdle_() : desktop_->secondsSinceInput();
     }
-    std::optional<double> secondsSinceKeyDown() const override { return _devices.secondsSinceKeyDown(); }
+    std::optional<double> secondsSinceKeyDown() const override { return devices_.secondsSinceKeyDown(); }
     std::optional<double> secondsSinceLeftMouseDown() const override {
-        return _devices.secondsSinceLeftDown();
+        return devices_.secondsSinceLeftDown();
     }
     std::optional<double> secondsSinceRightMouseDown() const override {
-        return _devices.secondsSinceRightDown();
+        return devices_.secondsSinceRightDown();
     }
-    bool leftButtonHeld() const override { return _devices.leftHeld(); }
-    bool rightButtonHeld() const override { return _devices.rightHeld(); }
+    bool leftButtonHeld() const override { return devices_.leftHeld(); }
+    bool rightButtonHeld() const override { return devices_.rightHeld(); }
 
 private:
-    std::shared_ptr<WaylandDesktop> _desktop;
-    EvdevInput _devices;
-    OtherIdle _otherIdle;
+    std::shared_ptr<WaylandDesktop> desktop_;
+    EvdevInput devices_;
+    OtherIdle otherIdle_;
 };
 
 } // namespace quietlark

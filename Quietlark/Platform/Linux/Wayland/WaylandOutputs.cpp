@@ -60,14 +60,14 @@ void WaylandOutputs::take(const WaylandGlobal& global) {
         .done = [](void*, wl_output*) {},
         .scale = [](void* self, wl_output*, int scale) { Output::of(self).scale = std::max(scale, 1); }};
     if (global.interface == zxdg_output_manager_v1_interface.name) {
-        _descriptions = waylandBind<zxdg_output_manager_v1>(global.registry, global.name,
+        descriptions_ = waylandBind<zxdg_output_manager_v1>(global.registry, global.name,
                                                             zxdg_output_manager_v1_interface, global.version,
                                                             descriptionVersion);
-        for (const auto& output : _outputs) {
+        for (const auto& output : outputs_) {
             describe(*output);
         }
     } else if (global.interface == wl_output_interface.name) {
-        auto& output = _outputs.emplace_back(std::make_unique<Output>());
+        auto& output = outputs_.emplace_back(std::make_unique<Output>());
         output->name = global.name;
         output->object = waylandBind<wl_output>(global.registry, global.name, wl_output_interface,
                                                 global.version, outputVersion);
@@ -89,20 +89,20 @@ void WaylandOutputs::describe(Output& output) {
         .done = [](void*, zxdg_output_v1*) {},
         .name = [](void*, zxdg_output_v1*, const char*) {},
         .description = [](void*, zxdg_output_v1*, const char*) {}};
-    if (_descriptions && !output.description) {
+    if (descriptions_ && !output.description) {
         output.description.reset(
-            zxdg_output_manager_v1_get_xdg_output(_descriptions.get(), output.object.get()));
+            zxdg_output_manager_v1_get_xdg_output(descriptions_.get(), output.object.get()));
         zxdg_output_v1_add_listener(output.description.get(), &listener, &output);
     }
 }
 
 void WaylandOutputs::lose(std::uint32_t name) {
-    std::erase_if(_outputs, [name](const auto& output) { return output->name == name; });
+    std::erase_if(outputs_, [name](const auto& output) { return output->name == name; });
 }
 
 std::vector<wumble::Rect> WaylandOutputs::frames() const {
     std::vector<wumble::Rect> result;
-    for (const auto& output : _outputs) {
+    for (const auto& output : outputs_) {
         if (!isEmpty(output->frame())) {
             result.push_back(output->frame());
         }
@@ -111,7 +111,7 @@ std::vector<wumble::Rect> WaylandOutputs::frames() const {
 }
 
 std::optional<wumble::Rect> WaylandOutputs::frame(const wl_output* object) const {
-    for (const auto& output : _outputs) {
+    for (const auto& output : outputs_) {
         if (output->object.get() == object && !isEmpty(output->frame())) {
             return output->frame();
         }

@@ -32,8 +32,8 @@ private:
 
     void describe(Output& output);
 
-    WaylandObject<zxdg_output_manager_v1> _descriptions;
-    std::vector<std::unique_ptr<Output>> _outputs;
+    WaylandObject<zxdg_output_manager_v1> descriptions_;
+    std::vector<std::unique_ptr<Output>> outputs_;
 };
 
 } // namespace quietlark

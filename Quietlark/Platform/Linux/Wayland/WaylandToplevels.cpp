@@ -61,12 +61,12 @@ void WaylandToplevels::take(const WaylandGlobal& global) {
             [](void* self, Manager*, zwlr_foreign_toplevel_handle_v1* handle) {
                 static_cast<WaylandToplevels*>(self)->add(handle);
             },
-        .finished = [](void* self, Manager*) { static_cast<WaylandToplevels*>(self)->_manager.reset(); }};
+        .finished = [](void* self, Manager*) { static_cast<WaylandToplevels*>(self)->manager_.reset(); }};
     if (global.interface == zwlr_foreign_toplevel_manager_v1_interface.name) {
-        _manager =
+        manager_ =
             waylandBind<Manager>(global.registry, global.name, zwlr_foreign_toplevel_manager_v1_interface,
                                  global.version, managerVersion);
-        zwlr_foreign_toplevel_manager_v1_add_listener(_manager.get(), &listener, this);
+        zwlr_foreign_toplevel_manager_v1_add_listener(manager_.get(), &listener, this);
     }
 }
 
@@ -83,21 +83,21 @@ void WaylandToplevels::add(zwlr_foreign_toplevel_handle_v1* handle) {
         .done = [](void* self, Handle*) { Toplevel::of(self).confirm(); },
         .closed = [](void* self, Handle*) { Toplevel::of(self).owner->remove(Toplevel::of(self)); },
         .parent = [](void*, Handle*, Handle*) {}};
-    auto& toplevel = _toplevels.emplace_back(std::make_unique<Toplevel>());
+    auto& toplevel = toplevels_.emplace_back(std::make_unique<Toplevel>());
     toplevel->owner = this;
-    toplevel->id = ++_lastId;
+    toplevel->id = ++lastId_;
     toplevel->handle.reset(handle);
     zwlr_foreign_toplevel_handle_v1_add_listener(handle, &listener, toplevel.get());
 }
 
 void WaylandToplevels::remove(const Toplevel& toplevel) {
-    const auto place = std::ranges::find(_toplevels, &toplevel, &std::unique_ptr<Toplevel>::get);
+    const auto place = std::ranges::find(toplevels_, &toplevel, &std::unique_ptr<Toplevel>::get);
     zwlr_foreign_toplevel_handle_v1_destroy((*place)->handle.release());
-    _toplevels.erase(place);
+    toplevels_.erase(place);
 }
 
 std::optional<AppWindow> WaylandToplevels::front() const {
-    for (const auto& toplevel : _toplevels) {
+    for (const auto& toplevel : toplevels_) {
         if (toplevel->state.isActive) {
             return toplevel->window();
         }
@@ -107,7 +107,7 @@ std::optional<AppWindow> WaylandToplevels::front() const {
 
 std::vector<AppWindow> WaylandToplevels::windows() const {
     std::vector<AppWindow> result;
-    for (const auto& toplevel : _toplevels) {
+    for (const auto& toplevel : toplevels_) {
         if (toplevel->isKnown && !toplevel->state.isActive) {
             result.push_back(toplevel->window());
         }
@@ -121,7 +121,7 @@ std::vector<AppWindow> WaylandToplevels::windows() const {
 std::vector<wumble::Rect> WaylandToplevels::rectangles(const std::string& windowClass,
                                                        const WaylandOutputs& outputs) const {
     std::vector<wumble::Rect> result;
-    for (const auto& toplevel : _toplevels) {
+    for (const auto& toplevel : toplevels_) {
         const Toplevel::State& state = toplevel->state;
         if (windowClass.empty() || state.windowClass != windowClass || !state.isFullScreen ||
             state.isMinimized) {
@@ -138,8 +138,8 @@ std::vector<wumble::Rect> WaylandToplevels::rectangles(const std::string& window
 
 void WaylandToplevels::activate(const AppWindow& window, wl_seat* seat) const {
     const auto found =
-        std::ranges::find(_toplevels, window.id, [](const auto& toplevel) { return toplevel->id; });
-    if (found != _toplevels.end() && seat) {
+        std::ranges::find(toplevels_, window.id, [](const auto& toplevel) { return toplevel->id; });
+    if (found != toplevels_.end() && seat) {
         zwlr_foreign_toplevel_handle_v1_activate((*found)->handle.get(), seat);
     }
 }

@@ -40,9 +40,9 @@ private:
     void add(zwlr_foreign_toplevel_handle_v1* handle);
     void remove(const Toplevel& toplevel);
 
-    WaylandObject<zwlr_foreign_toplevel_manager_v1> _manager;
-    std::vector<std::unique_ptr<Toplevel>> _toplevels;
-    std::uint64_t _lastId = 0;
+    WaylandObject<zwlr_foreign_toplevel_manager_v1> manager_;
+    std::vector<std::unique_ptr<Toplevel>> toplevels_;
+    std::uint64_t lastId_ = 0;
 };
 
 } // namespace quietlark

@@ -29,53 +29,53 @@ bool waitForData(int descriptor, Clock::time_point deadline) {
 } // namespace
 
 X11Connection::X11Connection(std::string display, EventReader reader)
-    : _display(std::move(display)), _reader(std::move(reader)) {
+    : display_(std::move(display)), reader_(std::move(reader)) {
     beginAttempt();
 }
 
 /// An attempt that nobody waits for any more lets go of its server by itself.
 void X11Connection::beginAttempt() {
     std::packaged_task<std::unique_ptr<X11Server>()> attempt(
-        [display = _display] { return X11Server::connect(display); });
-    _attempt = attempt.get_future();
+        [display = display_] { return X11Server::connect(display); });
+    attempt_ = attempt.get_future();
     try {
         std::thread(std::move(attempt)).detach();
     } catch (const std::system_error&) {
-        _attempt = {};
-        _hasTried = true;
+        attempt_ = {};
+        hasTried_ = true;
     }
 }
 
-bool X11Connection::isBroken() const { return xcb_connection_has_error(_server->get()) != 0; }
+bool X11Connection::isBroken() const { return xcb_connection_has_error(server_->get()) != 0; }
 
 bool X11Connection::renew(double uptime) {
-    _uptime = uptime;
-    const bool isLost = _server && isBroken();
+    uptime_ = uptime;
+    const bool isLost = server_ && isBroken();
     if (isLost) {
-        _questions.clear();
-        _server.reset();
+        questions_.clear();
+        server_.reset();
     }
-    if (_attempt.valid() && _attempt.wait_for(std::chrono::seconds{0}) == std::future_status::ready) {
-        _server = _attempt.get();
-        _hasTried = true;
-        _nextAttempt = uptime + attemptInterval;
-        return _server || isLost;
+    if (attempt_.valid() && attempt_.wait_for(std::chrono::seconds{0}) == std::future_status::ready) {
+        server_ = attempt_.get();
+        hasTried_ = true;
+        nextAttempt_ = uptime + attemptInterval;
+        return server_ || isLost;
     }
-    if (!_server && !_attempt.valid() && uptime >= _nextAttempt) {
+    if (!server_ && !attempt_.valid() && uptime >= nextAttempt_) {
         beginAttempt();
-        _nextAttempt = uptime + attemptInterval;
+        nextAttempt_ = uptime + attemptInterval;
     }
     return isLost;
 }
 
 void X11Connection::ask(unsigned sequence, Answer answer) {
-    _questions.push_back({sequence, std::move(answer)});
+    questions_.push_back({sequence, std::move(answer)});
 }
 
 bool X11Connection::takeAnswer() {
     void* reply = nullptr;
     xcb_generic_error_t* error = nullptr;
-    if (!xcb_poll_for_reply(_server->get(), _questions.front().sequence, &reply, &error)) {
+    if (!xcb_poll_for_reply(server_->get(), questions_.front().sequence, &reply, &error)) {
         return false;
     }
     const std::unique_ptr<void, X11Free> ownedReply(reply);
@@ -83,8 +83,8 @@ bool X11Connection::takeAnswer() {
     if (isBroken()) {
         return false;
     }
-    const Answer answer = std::move(_questions.front().answer);
-    _questions.pop_front();
+    const Answer answer = std::move(questions_.front().answer);
+    questions_.pop_front();
     answer(ownedReply.get());
     return true;
 }
@@ -92,28 +92,28 @@ bool X11Connection::takeAnswer() {
 void X11Connection::settle(std::chrono::microseconds budget) {
     const auto deadline = Clock::now() + budget;
     flush();
-    while (_server && !_questions.empty()) {
+    while (server_ && !questions_.empty()) {
         if (takeAnswer()) {
             flush();
-        } else if (isBroken() || !waitForData(xcb_get_file_descriptor(_server->get()), deadline)) {
+        } else if (isBroken() || !waitForData(xcb_get_file_descriptor(server_->get()), deadline)) {
             return;
         }
     }
 }
 
 void X11Connection::takeEvents() {
-    while (_server) {
-        const std::unique_ptr<xcb_generic_event_t, X11Free> event(xcb_poll_for_event(_server->get()));
+    while (server_) {
+        const std::unique_ptr<xcb_generic_event_t, X11Free> event(xcb_poll_for_event(server_->get()));
         if (!event) {
             return;
         }
-        _reader(*event);
+        reader_(*event);
     }
 }
 
 void X11Connection::flush() {
-    if (_server) {
-        xcb_flush(_server->get());
+    if (server_) {
+        xcb_flush(server_->get());
     }
 }
 

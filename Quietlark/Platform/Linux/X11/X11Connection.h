@@ -25,23 +25,23 @@ public:
     X11Connection(std::string display, EventReader reader);
 
     /// Null while there is none.
-    const X11Server* server() const { return _server.get(); }
+    const X11Server* server() const { return server_.get(); }
 
     /// Whether the first attempt has come to its end, well or not.
-    bool hasTried() const { return _hasTried; }
+    bool hasTried() const { return hasTried_; }
 
     /// Lets go of a server that went away, and takes a new one. True when `server` is another one than before.
     /// Begins a round.
     bool renew(double uptime);
 
     /// The main loop's, at this round's beginning.
-    double uptime() const { return _uptime; }
+    double uptime() const { return uptime_; }
 
     /// The answer to a request that was just made, and with it to all that were made before it.
     void ask(unsigned sequence, Answer answer);
 
     /// Whether answers are still to come. Who sends more then could fill the way to a server that doesn't read.
-    bool isWaiting() const { return !_questions.empty(); }
+    bool isWaiting() const { return !questions_.empty(); }
 
     /// Sends what is to be sent and takes answers, at the longest for `budget`. Answers may ask again.
     void settle(std::chrono::microseconds budget);
@@ -62,14 +62,14 @@ private:
     bool isBroken() const;
     bool takeAnswer();
 
-    std::string _display;
-    std::unique_ptr<X11Server> _server;
-    std::future<std::unique_ptr<X11Server>> _attempt;
-    std::deque<Question> _questions;
-    EventReader _reader;
-    double _uptime = 0;
-    double _nextAttempt = 0;
-    bool _hasTried = false;
+    std::string display_;
+    std::unique_ptr<X11Server> server_;
+    std::future<std::unique_ptr<X11Server>> attempt_;
+    std::deque<Question> questions_;
+    EventReader reader_;
+    double uptime_ = 0;
+    double nextAttempt_ = 0;
+    bool hasTried_ = false;
 };
 
 } // namespace quietlark

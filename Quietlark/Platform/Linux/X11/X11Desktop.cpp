@@ -36,52 +36,52 @@ void bringToFront(const X11Server& server, xcb_window_t window, std::uint32_t ti
 } // namespace
 
 X11Desktop::X11Desktop(const std::string& display)
-    : _connection(display, [this](const xcb_generic_event_t& event) { take(event); }),
-      _parts(std::make_unique<Parts>(_connection)) {}
+    : connection_(display, [this](const xcb_generic_event_t& event) { take(event); }),
+      parts_(std::make_unique<Parts>(connection_)) {}
 
 void X11Desktop::take(const xcb_generic_event_t& event) {
-    _parts->input.take(event);
-    _parts->windows.take(event);
-    _parts->displays.take(event);
+    parts_->input.take(event);
+    parts_->windows.take(event);
+    parts_->displays.take(event);
 }
 
 void X11Desktop::ask() {
-    _parts->input.ask();
-    _parts->windows.ask();
-    _parts->displays.ask();
-    _parts->power.ask();
+    parts_->input.ask();
+    parts_->windows.ask();
+    parts_->displays.ask();
+    parts_->power.ask();
 }
 
 void X11Desktop::refresh(double uptime) {
-    if (_refreshedAt == uptime) {
+    if (refreshedAt_ == uptime) {
         return;
     }
-    _refreshedAt = uptime;
-    if (_connection.renew(uptime)) {
-        _parts = std::make_unique<Parts>(_connection);
-        _measured.reset();
+    refreshedAt_ = uptime;
+    if (connection_.renew(uptime)) {
+        parts_ = std::make_unique<Parts>(connection_);
+        measured_.reset();
     }
-    if (!_connection.server()) {
+    if (!connection_.server()) {
         return;
     }
-    _connection.takeEvents();
-    if (!_connection.isWaiting()) {
+    connection_.takeEvents();
+    if (!connection_.isWaiting()) {
         ask();
     }
-    _connection.settle(patience);
-    _parts->input.conclude();
-    _parts->windows.conclude();
+    connection_.settle(patience);
+    parts_->input.conclude();
+    parts_->windows.conclude();
 }
 
 bool X11Desktop::ready() const {
-    if (!_connection.server()) {
-        return _connection.hasTried();
+    if (!connection_.server()) {
+        return connection_.hasTried();
     }
-    return _parts->input.hasAnswered() && _parts->windows.hasAnswered() && _parts->displays.hasAnswered();
+    return parts_->input.hasAnswered() && parts_->windows.hasAnswered() && parts_->displays.hasAnswered();
 }
 
 std::vector<wumble::GameDetection::Display> X11Desktop::displays() const {
-    return _parts->displays.displays(_parts->windows.topStruts());
+    return parts_->displays.displays(parts_->windows.topStruts());
 }
 
 bool X11Desktop::Program::owns(const AppWindow& window) const {
@@ -90,7 +90,7 @@ bool X11Desktop::Program::owns(const AppWindow& window) const {
 
 std::vector<xcb_window_t> X11Desktop::windowsOf(const Program& program) const {
     std::vector<xcb_window_t> found;
-    for (const AppWindow& window : _parts->windows.stacking()) {
+    for (const AppWindow& window : parts_->windows.stacking()) {
         if (program.owns(window)) {
             found.push_back(static_cast<xcb_window_t>(window.id));
         }
@@ -100,26 +100,26 @@ std::vector<xcb_window_t> X11Desktop::windowsOf(const Program& program) const {
 
 std::vector<wumble::Rect> X11Desktop::rectanglesOfProgram(const AppWindow& window) {
     Program program{window.pid, window.windowClass, {}};
-    if (_connection.server() && !_connection.isWaiting()) {
-        const X11Rectangles question(_connection, windowsOf(program), _parts->windows.currentDesktop());
-        _connection.settle(patience);
+    if (connection_.server() && !connection_.isWaiting()) {
+        const X11Rectangles question(connection_, windowsOf(program), parts_->windows.currentDesktop());
+        connection_.settle(patience);
         if (auto rectangles = question.answer()) {
             program.rectangles = std::move(*rectangles);
-            _measured = program;
+            measured_ = program;
         }
     }
-    return _measured && _measured->owns(window) ? _measured->rectangles : std::vector<wumble::Rect>{};
+    return measured_ && measured_->owns(window) ? measured_->rectangles : std::vector<wumble::Rect>{};
 }
 
 void X11Desktop::activate(const AppWindow& window) {
-    const X11Server* server = _connection.server();
+    const X11Server* server = connection_.server();
     if (!server || window.id == XCB_NONE) {
         return;
     }
     const auto id = static_cast<xcb_window_t>(window.id);
-    const auto send = _parts->windows.canActivate() ? askToActivate : bringToFront;
-    send(*server, id, _parts->input.serverTime());
-    _connection.flush();
+    const auto send = parts_->windows.canActivate() ? askToActivate : bringToFront;
+    send(*server, id, parts_->input.serverTime());
+    connection_.flush();
 }
 
 } // namespace quietlark

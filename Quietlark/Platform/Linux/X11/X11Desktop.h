@@ -24,10 +24,10 @@ public:
     /// Whether the answers are in, or there is no server.
     bool ready() const;
 
-    double uptime() const { return _connection.uptime(); }
-    const X11Input& input() const { return _parts->input; }
-    const X11Windows& windows() const { return _parts->windows; }
-    const X11DisplayPower& power() const { return _parts->power; }
+    double uptime() const { return connection_.uptime(); }
+    const X11Input& input() const { return parts_->input; }
+    const X11Windows& windows() const { return parts_->windows; }
+    const X11DisplayPower& power() const { return parts_->power; }
     std::vector<wumble::GameDetection::Display> displays() const;
 
     /// As the window system's. The last answer about the same program when the server doesn't answer in time.
@@ -58,10 +58,10 @@ private:
     void ask();
     std::vector<xcb_window_t> windowsOf(const Program& program) const;
 
-    X11Connection _connection;
-    std::unique_ptr<Parts> _parts;
-    std::optional<double> _refreshedAt;
-    std::optional<Program> _measured;
+    X11Connection connection_;
+    std::unique_ptr<Parts> parts_;
+    std::optional<double> refreshedAt_;
+    std::optional<Program> measured_;
 };
 
 } // namespace quietlark

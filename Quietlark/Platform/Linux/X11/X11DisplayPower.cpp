@@ -11,15 +11,15 @@ constexpr double interval = 3;
 } // namespace
 
 void X11DisplayPower::ask() {
-    const double now = _connection.uptime();
-    const X11Server& server = *_connection.server();
-    if (!server.hasPowerLevels || (_asked && now - *_asked < interval)) {
+    const double now = connection_.uptime();
+    const X11Server& server = *connection_.server();
+    if (!server.hasPowerLevels || (asked_ && now - *asked_ < interval)) {
         return;
     }
-    _asked = now;
-    _connection.ask(xcb_dpms_info(server.get()).sequence, [this](const void* reply) {
+    asked_ = now;
+    connection_.ask(xcb_dpms_info(server.get()).sequence, [this](const void* reply) {
         const auto* info = static_cast<const xcb_dpms_info_reply_t*>(reply);
-        _areAsleep =
+        areAsleep_ =
             info ? std::optional(info->state && info->power_level != XCB_DPMS_DPMS_MODE_ON) : std::nullopt;
     });
 }

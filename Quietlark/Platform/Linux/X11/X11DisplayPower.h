@@ -10,17 +10,17 @@ namespace quietlark {
 class X11DisplayPower {
 public:
     /// `connection` outlives this.
-    explicit X11DisplayPower(X11Connection& connection) : _connection(connection) {}
+    explicit X11DisplayPower(X11Connection& connection) : connection_(connection) {}
 
     void ask();
 
     /// Absent where the server doesn't manage their power.
-    std::optional<bool> areAsleep() const { return _areAsleep; }
+    std::optional<bool> areAsleep() const { return areAsleep_; }
 
 private:
-    X11Connection& _connection;
-    std::optional<bool> _areAsleep;
-    std::optional<double> _asked;
+    X11Connection& connection_;
+    std::optional<bool> areAsleep_;
+    std::optional<double> asked_;
 };
 
 } // namespace quietlark

@@ -8,36 +8,36 @@
 namespace quietlark {
 
 void X11Displays::take(const xcb_generic_event_t& event) {
-    const X11Server& server = *_connection.server();
+    const X11Server& server = *connection_.server();
     const int type = event.response_type & 0x7f;
     const bool isRootResized =
         type == XCB_CONFIGURE_NOTIFY &&
         reinterpret_cast<const xcb_configure_notify_event_t&>(event).window == server.root;
     const bool isMonitorEvent = server.monitorsEvent && (type == *server.monitorsEvent ||
                                                          type == *server.monitorsEvent + XCB_RANDR_NOTIFY);
-    _isChanged = _isChanged || isRootResized || isMonitorEvent;
+    isChanged_ = isChanged_ || isRootResized || isMonitorEvent;
 }
 
 void X11Displays::ask() {
-    if (!std::exchange(_isChanged, false)) {
+    if (!std::exchange(isChanged_, false)) {
         return;
     }
-    const X11Server& server = *_connection.server();
+    const X11Server& server = *connection_.server();
     if (!server.monitorsEvent) {
         askRootSize();
         return;
     }
     const auto cookie = xcb_randr_get_monitors(server.get(), server.root, 1);
-    _connection.ask(cookie.sequence, [this](const void* reply) {
+    connection_.ask(cookie.sequence, [this](const void* reply) {
         takeMonitors(reply);
-        if (_frames.empty()) {
+        if (frames_.empty()) {
             askRootSize();
         }
     });
 }
 
 void X11Displays::takeMonitors(const void* reply) {
-    _frames.clear();
+    frames_.clear();
     const auto* monitors = static_cast<const xcb_randr_get_monitors_reply_t*>(reply);
     if (!monitors) {
         return;
@@ -48,24 +48,24 @@ void X11Displays::takeMonitors(const void* reply) {
                                  static_cast<double>(each.data->width),
                                  static_cast<double>(each.data->height)};
         if (!isEmpty(frame)) {
-            _frames.push_back(frame);
+            frames_.push_back(frame);
         }
     }
 }
 
 void X11Displays::askRootSize() {
-    const X11Server& server = *_connection.server();
+    const X11Server& server = *connection_.server();
     const auto cookie = xcb_get_geometry(server.get(), server.root);
-    _connection.ask(cookie.sequence, [this](const void* reply) {
+    connection_.ask(cookie.sequence, [this](const void* reply) {
         if (const auto* size = static_cast<const xcb_get_geometry_reply_t*>(reply)) {
-            _frames = {{0, 0, static_cast<double>(size->width), static_cast<double>(size->height)}};
+            frames_ = {{0, 0, static_cast<double>(size->width), static_cast<double>(size->height)}};
         }
     });
 }
 
 std::vector<wumble::GameDetection::Display> X11Displays::displays(std::span<const X11TopStrut> struts) const {
     std::vector<wumble::GameDetection::Display> result;
-    for (const wumble::Rect& frame : _frames) {
+    for (const wumble::Rect& frame : frames_) {
         result.push_back({frame, x11TopInset(frame, struts)});
     }
     return result;

@@ -14,12 +14,12 @@ namespace quietlark {
 class X11Displays {
 public:
     /// `connection` outlives this.
-    explicit X11Displays(X11Connection& connection) : _connection(connection) {}
+    explicit X11Displays(X11Connection& connection) : connection_(connection) {}
 
     void take(const xcb_generic_event_t& event);
     void ask();
 
-    bool hasAnswered() const { return !_frames.empty(); }
+    bool hasAnswered() const { return !frames_.empty(); }
 
     /// Each with what panels keep free at its top.
     std::vector<wumble::GameDetection::Display> displays(std::span<const X11TopStrut> struts) const;
@@ -28,9 +28,9 @@ private:
     void askRootSize();
     void takeMonitors(const void* reply);
 
-    X11Connection& _connection;
-    std::vector<wumble::Rect> _frames;
-    bool _isChanged = true;
+    X11Connection& connection_;
+    std::vector<wumble::Rect> frames_;
+    bool isChanged_ = true;
 };
 
 /// What a panel keeps free of one monitor: it is told from the top of the root window, so one that reaches past

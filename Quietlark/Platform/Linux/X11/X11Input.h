@@ -13,7 +13,7 @@ namespace quietlark {
 class X11Input {
 public:
     /// `connection` outlives this.
-    explicit X11Input(X11Connection& connection) : _connection(connection) {}
+    explicit X11Input(X11Connection& connection) : connection_(connection) {}
 
     void take(const xcb_generic_event_t& event);
 
@@ -26,14 +26,14 @@ public:
     bool hasAnswered() const;
     /// Absent as well where the server tells no idle time: raw events alone leave out the pointer's way.
     std::optional<double> lastInput() const;
-    std::optional<double> lastKeyDown() const { return _lastKeyDown; }
-    std::optional<double> lastLeftDown() const { return _left.lastDown; }
-    std::optional<double> lastRightDown() const { return _right.lastDown; }
-    bool leftHeld() const { return _left.isHeld; }
-    bool rightHeld() const { return _right.isHeld; }
+    std::optional<double> lastKeyDown() const { return lastKeyDown_; }
+    std::optional<double> lastLeftDown() const { return left_.lastDown; }
+    std::optional<double> lastRightDown() const { return right_.lastDown; }
+    bool leftHeld() const { return left_.isHeld; }
+    bool rightHeld() const { return right_.isHeld; }
 
     /// The server's time as late as it is known, for requests that tell when the person asked for something.
-    std::uint32_t serverTime() const { return _clock.lastTold(); }
+    std::uint32_t serverTime() const { return clock_.lastTold(); }
 
 private:
     struct Button {
@@ -53,16 +53,16 @@ private:
     void noteInput(X11Time time);
     double uptimeOf(X11Time time) const;
 
-    X11Connection& _connection;
-    X11Clock _clock;
-    std::vector<Happening> _happenings;
-    std::optional<X11Time> _stamp; ///< the server's time at the last question, once that has come
-    std::optional<X11Time> _lastInputTime;
-    std::optional<double> _lastInput;
-    std::optional<double> _lastKeyDown;
-    std::optional<double> _idleAsked;
-    Button _left;
-    Button _right;
+    X11Connection& connection_;
+    X11Clock clock_;
+    std::vector<Happening> happenings_;
+    std::optional<X11Time> stamp_; ///< the server's time at the last question, once that has come
+    std::optional<X11Time> lastInputTime_;
+    std::optional<double> lastInput_;
+    std::optional<double> lastKeyDown_;
+    std::optional<double> idleAsked_;
+    Button left_;
+    Button right_;
 };
 
 } // namespace quietlark

@@ -15,16 +15,16 @@ constexpr std::uint32_t longestState = 64;
 
 X11Rectangles::X11Rectangles(X11Connection& connection, const std::vector<xcb_window_t>& windows,
                              std::optional<std::uint32_t> desktop)
-    : _connection(connection) {
-    _state->windows.resize(windows.size());
+    : connection_(connection) {
+    state_->windows.resize(windows.size());
     for (std::size_t place = 0; place < windows.size(); ++place) {
         askWindow(place, windows[place], desktop);
     }
 }
 
 void X11Rectangles::ask(unsigned sequence, std::size_t place, Reader reader, std::uint32_t known) {
-    ++_state->unanswered;
-    _connection.ask(sequence, [state = _state, place, reader, known](const void* reply) {
+    ++state_->unanswered;
+    connection_.ask(sequence, [state = state_, place, reader, known](const void* reply) {
         --state->unanswered;
         if (reply) {
             reader(state->windows[place], reply, known);
@@ -33,14 +33,14 @@ void X11Rectangles::ask(unsigned sequence, std::size_t place, Reader reader, std
 }
 
 unsigned X11Rectangles::property(xcb_window_t window, X11Atom name) const {
-    const X11Server& server = *_connection.server();
+    const X11Server& server = *connection_.server();
     return xcb_get_property(server.get(), 0, window, server.atom(name), XCB_GET_PROPERTY_TYPE_ANY, 0,
                             longestState)
         .sequence;
 }
 
 void X11Rectangles::askWindow(std::size_t place, xcb_window_t id, std::optional<std::uint32_t> desktop) {
-    const X11Server& server = *_connection.server();
+    const X11Server& server = *connection_.server();
     ask(xcb_get_window_attributes(server.get(), id).sequence, place,
         [](Window& window, const void* reply, std::uint32_t) {
             const auto* attributes = static_cast<const xcb_get_window_attributes_reply_t*>(reply);
@@ -81,11 +81,11 @@ void X11Rectangles::askWindow(std::size_t place, xcb_window_t id, std::optional<
 }
 
 std::optional<std::vector<wumble::Rect>> X11Rectangles::answer() const {
-    if (_state->unanswered > 0) {
+    if (state_->unanswered > 0) {
         return {};
     }
     std::vector<wumble::Rect> frames;
-    for (const Window& window : _state->windows) {
+    for (const Window& window : state_->windows) {
         const bool isSeen =
             window.isViewable && !window.isHidden && !window.isElsewhere && !window.isTransparent;
         if (isSeen && !isEmpty(window.frame)) {

@@ -39,8 +39,8 @@ private:
     void askWindow(std::size_t place, xcb_window_t window, std::optional<std::uint32_t> desktop);
     unsigned property(xcb_window_t window, X11Atom name) const;
 
-    X11Connection& _connection;
-    std::shared_ptr<State> _state = std::make_shared<State>();
+    X11Connection& connection_;
+    std::shared_ptr<State> state_ = std::make_shared<State>();
 };
 
 } // namespace quietlark

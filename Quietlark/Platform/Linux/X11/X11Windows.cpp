@@ -23,55 +23,55 @@ void X11Windows::take(const xcb_generic_event_t& event) {
     const int type = event.response_type & 0x7f;
     if (type == XCB_DESTROY_NOTIFY) {
         const auto window = reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window;
-        if (window == _manager) {
-            _manager.reset();
-            _isPublished = false;
+        if (window == manager_) {
+            manager_.reset();
+            isPublished_ = false;
         }
     } else if (type == XCB_PROPERTY_NOTIFY) {
         const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
-        const X11Server& server = *_connection.server();
+        const X11Server& server = *connection_.server();
         if (change.window == server.root) {
             takeRootChange(change.atom);
         } else if (change.atom == server.atom(X11Atom::windowStrut) ||
                    change.atom == server.atom(X11Atom::windowStrutPartial)) {
-            _areStrutsOld = true;
+            areStrutsOld_ = true;
         }
     }
 }
 
 void X11Windows::takeRootChange(xcb_atom_t atom) {
-    const X11Server& server = *_connection.server();
-    for (RootProperty& property : _rootProperties) {
+    const X11Server& server = *connection_.server();
+    for (RootProperty& property : rootProperties_) {
         property.isChanged = property.isChanged || atom == server.atom(property.name);
     }
-    _areStrutsOld = _areStrutsOld || atom == server.atom(X11Atom::workArea);
+    areStrutsOld_ = areStrutsOld_ || atom == server.atom(X11Atom::workArea);
 }
 
 void X11Windows::ask() {
-    for (RootProperty& property : _rootProperties) {
+    for (RootProperty& property : rootProperties_) {
         if (std::exchange(property.isChanged, false)) {
             askRootProperty(property);
         }
     }
-    if (std::exchange(_areStrutsOld, false)) {
-        for (const auto& [window, client] : _clients) {
+    if (std::exchange(areStrutsOld_, false)) {
+        for (const auto& [window, client] : clients_) {
             askStruts(window);
         }
     }
 }
 
 unsigned X11Windows::requestProperty(xcb_window_t window, X11Atom name) {
-    const X11Server& server = *_connection.server();
+    const X11Server& server = *connection_.server();
     return xcb_get_property(server.get(), 0, window, server.atom(name), XCB_GET_PROPERTY_TYPE_ANY, 0,
                             longestProperty)
         .sequence;
 }
 
 void X11Windows::askCounted(unsigned sequence, X11Connection::Answer answer) {
-    ++_unanswered;
-    _isPublished = false;
-    _connection.ask(sequence, [this, answer = std::move(answer)](const void* reply) {
-        --_unanswered;
+    ++unanswered_;
+    isPublished_ = false;
+    connection_.ask(sequence, [this, answer = std::move(answer)](const void* reply) {
+        --unanswered_;
         answer(reply);
     });
 }
@@ -81,7 +81,7 @@ void X11Windows::askProperty(xcb_window_t window, X11Atom name, X11Connection::A
 }
 
 void X11Windows::askRootProperty(RootProperty& property) {
-    askProperty(_connection.server()->root, property.name, [this, &property](const void* reply) {
+    askProperty(connection_.server()->root, property.name, [this, &property](const void* reply) {
         const auto numbers = propertyNumbers(reply);
         property.numbers.assign(numbers.begin(), numbers.end());
         if (property.name == X11Atom::supportingWindowManager) {
@@ -94,17 +94,17 @@ void X11Windows::askRootProperty(RootProperty& property) {
 
 /// A window manager that died leaves its properties on the root window, but not the window that they name.
 void X11Windows::askManager() {
-    _manager.reset();
+    manager_.reset();
     const auto named = numbers(X11Atom::supportingWindowManager);
     if (named.empty()) {
         return;
     }
-    select(*_connection.server(), named.front(), XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    select(*connection_.server(), named.front(), XCB_EVENT_MASK_STRUCTURE_NOTIFY);
     askProperty(named.front(), X11Atom::supportingWindowManager,
                 [this, window = named.front()](const void* reply) {
                     const auto confirmed = propertyNumbers(reply);
                     if (!confirmed.empty() && confirmed.front() == window) {
-                        _manager = window;
+                        manager_ = window;
                     }
                 });
 }
@@ -113,11 +113,11 @@ void X11Windows::followClients() {
     const auto isKept = [this](xcb_window_t window) {
         return window == active() || std::ranges::find(managed(), window) != managed().end();
     };
-    std::erase_if(_clients, [&](const auto& entry) { return !isKept(entry.first); });
+    std::erase_if(clients_, [&](const auto& entry) { return !isKept(entry.first); });
     std::vector<xcb_window_t> wanted(managed().begin(), managed().end());
     wanted.push_back(active());
     for (const xcb_window_t window : wanted) {
-        if (window != XCB_NONE && _clients.try_emplace(window).second) {
+        if (window != XCB_NONE && clients_.try_emplace(window).second) {
             askIdentity(window);
             askStruts(window);
         }
@@ -136,9 +136,9 @@ void X11Windows::askIdentity(xcb_window_t window) {
             known->pid = static_cast<int>(numbers.front());
         }
     });
-    if (_connection.server()->hasClientIds) {
+    if (connection_.server()->hasClientIds) {
         const xcb_res_client_id_spec_t spec{window, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
-        const auto cookie = xcb_res_query_client_ids(_connection.server()->get(), 1, &spec);
+        const auto cookie = xcb_res_query_client_ids(connection_.server()->get(), 1, &spec);
         askCounted(cookie.sequence, [this, window](const void* reply) {
             const int pid = x11ClientPid(reply);
             if (X11Client* known = client(window); known && pid > 0) {
@@ -165,16 +165,16 @@ void X11Windows::askStrut(xcb_window_t window, X11Atom form) {
             return;
         }
         known->topStrut = x11TopStrut(numbers, rootWidth());
-        select(*_connection.server(), window, XCB_EVENT_MASK_PROPERTY_CHANGE);
+        select(*connection_.server(), window, XCB_EVENT_MASK_PROPERTY_CHANGE);
     });
 }
 
 double X11Windows::rootWidth() const {
-    return xcb_setup_roots_iterator(xcb_get_setup(_connection.server()->get())).data->width_in_pixels;
+    return xcb_setup_roots_iterator(xcb_get_setup(connection_.server()->get())).data->width_in_pixels;
 }
 
 std::span<const std::uint32_t> X11Windows::numbers(X11Atom name) const {
-    return std::ranges::find(_rootProperties, name, &RootProperty::name)->numbers;
+    return std::ranges::find(rootProperties_, name, &RootProperty::name)->numbers;
 }
 
 std::span<const std::uint32_t> X11Windows::managed() const {
@@ -188,34 +188,34 @@ xcb_window_t X11Windows::active() const {
 }
 
 X11Client* X11Windows::client(xcb_window_t window) {
-    const auto found = _clients.find(window);
-    return found == _clients.end() ? nullptr : &found->second;
+    const auto found = clients_.find(window);
+    return found == clients_.end() ? nullptr : &found->second;
 }
 
 AppWindow X11Windows::appWindow(xcb_window_t window) const {
-    const auto found = _clients.find(window);
-    return found == _clients.end() ? AppWindow{window, 0, {}}
+    const auto found = clients_.find(window);
+    return found == clients_.end() ? AppWindow{window, 0, {}}
                                    : AppWindow{window, found->second.pid, found->second.windowClass};
 }
 
 void X11Windows::conclude() {
-    if (_unanswered > 0 || std::exchange(_isPublished, true)) {
+    if (unanswered_ > 0 || std::exchange(isPublished_, true)) {
         return;
     }
-    _hasAnswered = true;
-    _front.reset();
-    _stacking.clear();
-    _topStruts.clear();
-    if (!_manager) {
+    hasAnswered_ = true;
+    front_.reset();
+    stacking_.clear();
+    topStruts_.clear();
+    if (!manager_) {
         return;
     }
     if (active() != XCB_NONE) {
-        _front = appWindow(active());
+        front_ = appWindow(active());
     }
     for (const xcb_window_t window : managed()) {
-        _stacking.push_back(appWindow(window));
-        if (const auto& strut = _clients.at(window).topStrut) {
-            _topStruts.push_back(*strut);
+        stacking_.push_back(appWindow(window));
+        if (const auto& strut = clients_.at(window).topStrut) {
+            topStruts_.push_back(*strut);
         }
     }
 }
@@ -227,8 +227,8 @@ std::optional<std::uint32_t> X11Windows::currentDesktop() const {
 
 bool X11Windows::canActivate() const {
     const auto supported = numbers(X11Atom::supported);
-    const xcb_atom_t wanted = _connection.server()->atom(X11Atom::activeWindow);
-    return _manager && std::ranges::find(supported, wanted) != supported.end();
+    const xcb_atom_t wanted = connection_.server()->atom(X11Atom::activeWindow);
+    return manager_ && std::ranges::find(supported, wanted) != supported.end();
 }
 
 } // namespace quietlark

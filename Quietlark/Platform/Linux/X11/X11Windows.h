@@ -17,7 +17,7 @@ namespace quietlark {
 class X11Windows {
 public:
     /// `connection` outlives this.
-    explicit X11Windows(X11Connection& connection) : _connection(connection) {}
+    explicit X11Windows(X11Connection& connection) : connection_(connection) {}
 
     void take(const xcb_generic_event_t& event);
     void ask();
@@ -25,10 +25,10 @@ public:
     /// Publishes what has become known, as soon as all of it has.
     void conclude();
 
-    bool hasAnswered() const { return _hasAnswered; }
-    const std::optional<AppWindow>& front() const { return _front; }
-    const std::vector<AppWindow>& stacking() const { return _stacking; } ///< from the bottom to the top
-    const std::vector<X11TopStrut>& topStruts() const { return _topStruts; }
+    bool hasAnswered() const { return hasAnswered_; }
+    const std::optional<AppWindow>& front() const { return front_; }
+    const std::vector<AppWindow>& stacking() const { return stacking_; } ///< from the bottom to the top
+    const std::vector<X11TopStrut>& topStruts() const { return topStruts_; }
 
     /// Absent where the window manager knows of one workspace only.
     std::optional<std::uint32_t> currentDesktop() const;
@@ -60,23 +60,23 @@ private:
     AppWindow appWindow(xcb_window_t window) const;
     double rootWidth() const;
 
-    X11Connection& _connection;
-    std::array<RootProperty, 6> _rootProperties{{{X11Atom::supportingWindowManager, {}},
+    X11Connection& connection_;
+    std::array<RootProperty, 6> rootProperties_{{{X11Atom::supportingWindowManager, {}},
                                                  {X11Atom::supported, {}},
                                                  {X11Atom::currentDesktop, {}},
                                                  {X11Atom::activeWindow, {}},
                                                  {X11Atom::clientList, {}},
                                                  {X11Atom::clientListStacking, {}}}};
-    std::map<xcb_window_t, X11Client> _clients;
-    std::optional<xcb_window_t> _manager; ///< the window that shows that a window manager lives
-    int _unanswered = 0;
-    bool _isPublished = false;
-    bool _hasAnswered = false;
-    bool _areStrutsOld = false;
+    std::map<xcb_window_t, X11Client> clients_;
+    std::optional<xcb_window_t> manager_; ///< the window that shows that a window manager lives
+    int unanswered_ = 0;
+    bool isPublished_ = false;
+    bool hasAnswered_ = false;
+    bool areStrutsOld_ = false;
 
-    std::optional<AppWindow> _front;
-    std::vector<AppWindow> _stacking;
-    std::vector<X11TopStrut> _topStruts;
+    std::optional<AppWindow> front_;
+    std::vector<AppWindow> stacking_;
+    std::vector<X11TopStrut> topStruts_;
 };
 
 } // namespace quietlark
