@@ -47,6 +47,10 @@ bool SoundLab::start() {
     if (!spinUntil(socket("pulse/native"))) {
         return false;
     }
+    // The socket is there a little before the server listens at it.
+    if (!spinUntil([this] { return !outputOf({"pactl", "info"}, environment()).empty(); })) {
+        return false;
+    }
     outputOf({"pactl", "load-module", "module-null-sink", "sink_name=speakers"}, environment());
     outputOf({"pactl", "load-module", "module-null-sink", "media.class=Audio/Source/Virtual",
               "sink_name=virtmic", "channel_map=mono"},
