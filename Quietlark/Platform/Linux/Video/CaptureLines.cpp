@@ -22,11 +22,6 @@ std::string line(const std::vector<std::string>& identifiers) {
 
 } // namespace
 
-void CaptureLines::begin() {
-    const std::lock_guard guard(lock_);
-    isOpen_ = true;
-}
-
 void CaptureLines::setWatchers(const std::vector<std::string>& identifiers) {
     std::string next = line(identifiers);
     const std::lock_guard guard(lock_);
@@ -38,14 +33,9 @@ void CaptureLines::setWatchers(const std::vector<std::string>& identifiers) {
     }
 }
 
-void CaptureLines::end() {
+void CaptureLines::forget() {
     const std::lock_guard guard(lock_);
-    isOpen_ = false;
     current_.reset();
-    received_ = nullptr;
-    if (const auto ended = std::exchange(ended_, nullptr)) {
-        ended();
-    }
 }
 
 std::optional<std::string> CaptureLines::current() const {
@@ -53,19 +43,14 @@ std::optional<std::string> CaptureLines::current() const {
     return current_;
 }
 
-bool CaptureLines::listen(CaptureLogRunner::Received received, CaptureLogRunner::Ended ended) {
+void CaptureLines::listen(CaptureLogRunner::Received received) {
     const std::lock_guard guard(lock_);
-    if (isOpen_) {
-        received_ = std::move(received);
-        ended_ = std::move(ended);
-    }
-    return isOpen_;
+    received_ = std::move(received);
 }
 
 void CaptureLines::stopListening() {
     const std::lock_guard guard(lock_);
     received_ = nullptr;
-    ended_ = nullptr;
 }
 
 } // namespace quietlark

@@ -7,7 +7,8 @@
 namespace quietlark {
 
 /// Gives the lines of this process's own watch over PipeWire to the capture log. They tell of the present only: a
-/// look back gives the one line that holds now.
+/// look back gives the one line that holds now. The stream never ends: where the daemon comes and goes, the lines
+/// stop and go on.
 class PipeWireCaptureRunner final : public CaptureLogRunner {
 public:
     explicit PipeWireCaptureRunner(std::shared_ptr<CaptureLines> lines) : lines_(std::move(lines)) {}
@@ -15,8 +16,9 @@ public:
     PipeWireCaptureRunner(const PipeWireCaptureRunner&) = delete;
     PipeWireCaptureRunner& operator=(const PipeWireCaptureRunner&) = delete;
 
-    bool launch(Received received, Ended ended) override {
-        return lines_->listen(std::move(received), std::move(ended));
+    bool launch(Received received, Ended) override {
+        lines_->listen(std::move(received));
+        return true;
     }
     std::optional<std::string> lookBack() override { return lines_->current(); }
     void terminate() override { lines_->stopListening(); }

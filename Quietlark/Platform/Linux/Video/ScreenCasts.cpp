@@ -23,13 +23,6 @@ std::string identifier(const AppRef& app) {
 
 ScreenCasts::ScreenCasts(AppIdentity& identity) : identity_(identity), connection_([this] { publish(); }) {}
 
-void ScreenCasts::refresh(double uptime) {
-    connection_.refresh(uptime);
-    if (connection_.isConnected()) {
-        lines_->begin();
-    }
-}
-
 bool ScreenCasts::cameraRuns() const {
     const VideoGraph* graph = connection_.graph();
     return graph != nullptr && graph->cameraRuns();
@@ -39,9 +32,7 @@ void ScreenCasts::publish() {
     const VideoGraph* graph = connection_.graph();
     if (graph == nullptr) {
         isWatched_.reset();
-        if (!connection_.isConnected()) {
-            lines_->end();
-        }
+        lines_->forget();
         return;
     }
     const std::vector<AppHints> watchers = graph->watchers(getpid());

@@ -13,11 +13,10 @@ class ScreenCasts {
 public:
     /// `identity` must outlive it.
     explicit ScreenCasts(AppIdentity& identity);
-    ~ScreenCasts() { lines_->end(); }
     ScreenCasts(const ScreenCasts&) = delete;
     ScreenCasts& operator=(const ScreenCasts&) = delete;
 
-    void refresh(double uptime);
+    void refresh(double uptime) { connection_.refresh(uptime); }
     bool ready() const { return connection_.ready(); }
 
     /// Absent while the server can't be asked.
