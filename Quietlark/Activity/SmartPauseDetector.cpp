@@ -168,7 +168,7 @@ std::optional<std::string> SmartPauseDetector::gameName(const AppRef& app) {
     }
     const AppInspection inspection = platform_.applications->inspect(app);
     const bool isGame = wumble::GameDetection::isGame(app.bundleID, inspection.categories, inspection.paths);
-    const auto game = isGame ? std::optional(wumble::GameDetection::displayName(app.name)) : std::nullopt;
+    auto game = isGame ? std::optional(wumble::GameDetection::displayName(app.name)) : std::nullopt;
     // Without a process there is nothing that tells when a verdict has grown old.
     if (app.pid != 0) {
         if (gameCache_.size() >= fullGameCache) {

@@ -1,5 +1,6 @@
 #include "Quietlark/Platform/Platform.h"
 
+#include <algorithm>
 #include <array>
 
 namespace quietlark {
@@ -15,15 +16,10 @@ std::array<Source*, 7> sources(const Platform& platform) {
 } // namespace
 
 bool Platform::ready() const {
-    for (const Source* source : sources(*this)) {
-        if (!source->ready()) {
-            return false;
-        }
-    }
-    return true;
+    return std::ranges::all_of(sources(*this), [](const Source* source) { return source->ready(); });
 }
 
-void Platform::refresh(double uptime) {
+void Platform::refresh(double uptime) const {
     for (Source* source : sources(*this)) {
         source->refresh(uptime);
     }

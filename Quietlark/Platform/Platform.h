@@ -6,12 +6,14 @@
 #include "Quietlark/Platform/CaptureLogRunner.h"
 #include "Quietlark/Platform/CopyNotice.h"
 #include "Quietlark/Platform/InputClock.h"
+#include "Quietlark/Platform/LoginItem.h"
 #include "Quietlark/Platform/Microphone.h"
 #include "Quietlark/Platform/ScreenLock.h"
 #include "Quietlark/Platform/ScreenWatch.h"
 #include "Quietlark/Platform/SessionWatch.h"
 #include "Quietlark/Platform/SleepAssertion.h"
 #include "Quietlark/Platform/SleepHolders.h"
+#include "Quietlark/Platform/SoundOutput.h"
 #include "Quietlark/Platform/WindowSystem.h"
 
 #include <memory>
@@ -21,6 +23,7 @@ namespace quietlark {
 
 /// Everything the program asks of the desktop. Whoever makes it fills every member.
 struct Platform {
+    std::shared_ptr<void> foundation; ///< what the members stand on together; it ends last
     std::unique_ptr<InputClock> input;
     std::unique_ptr<SessionWatch> session;
     std::unique_ptr<WindowSystem> windows;
@@ -33,13 +36,15 @@ struct Platform {
     std::unique_ptr<SleepAssertion> sleepAssertion;
     std::unique_ptr<ScreenLock> screenLock;
     std::unique_ptr<CopyNotice> copyNotice;
+    std::unique_ptr<SoundOutput> soundOutput;
+    std::unique_ptr<LoginItem> loginItem;
     std::string processName; ///< of this program, as others see it
 
     /// Whether each source has given its first answers.
     bool ready() const;
 
     /// Brings every source up to date. Takes under 5 ms whatever the services do.
-    void refresh(double uptime);
+    void refresh(double uptime) const;
 };
 
 } // namespace quietlark

@@ -18,8 +18,10 @@ std::string text(const Json& json) { return json.text().value_or("(unwritable)")
 std::string difference(const Json& expected, const Json& actual, const std::string& place = "answer") {
     constexpr double tolerance = 1e-9;
     std::string found;
-    const auto *members = expected.object(), *present = actual.object();
-    const auto *elements = expected.array(), *others = actual.array();
+    const auto* members = expected.object();
+    const auto* present = actual.object();
+    const auto* elements = expected.array();
+    const auto* others = actual.array();
     if (members != nullptr && present != nullptr) {
         for (auto member = members->begin(); member != members->end() && found.empty(); ++member) {
             const auto inner = place + "." + member->first;

@@ -15,7 +15,7 @@ constexpr const char* mondayToFriday = "23456";
 WumbleSettings hours(std::string_view workdays, Counter start = 600, Counter end = 1140) {
     WumbleSettings settings{.officeHoursEnabled = true};
     for (auto& day : settings.officeHours) {
-        const bool isWorkday = workdays.find(static_cast<char>('0' + day.weekday)) != workdays.npos;
+        const bool isWorkday = workdays.find(static_cast<char>('0' + day.weekday)) != std::string_view::npos;
         day = {.weekday = day.weekday, .enabled = isWorkday, .startMinute = start, .endMinute = end};
     }
     return settings;

@@ -2,6 +2,7 @@
 #include "tests/support/Pets.h"
 #include "tests/support/Records.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace wumble {
@@ -122,10 +123,8 @@ TEST(Recap, sumsUpThePetsAndBreaksOfItsDaysOnly) {
 }
 
 std::vector<std::string> keysOf(const std::vector<Recap>& recaps) {
-    std::vector<std::string> keys;
-    for (const auto& recap : recaps) {
-        keys.push_back(recap.key);
-    }
+    std::vector<std::string> keys(recaps.size());
+    std::ranges::transform(recaps, keys.begin(), &Recap::key);
     return keys;
 }
 

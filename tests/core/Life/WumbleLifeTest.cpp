@@ -71,7 +71,7 @@ TEST(WumbleLife, drawsTheFlavourFromWhatIsLeftInTheBag) {
     };
     for (const auto& [about, left, yesterday, pool] : cases) {
         auto seen = dailyWithout(left);
-        std::erase_if(seen, [&](WumbleBase base) { return base == yesterday.back(); });
+        std::erase(seen, yesterday.back());
         seen.insert(seen.end(), yesterday.begin(), yesterday.end());
         EXPECT_EQ(poolOf(lifeWithFlavours(noon, seen)), pool) << about;
     }
@@ -179,7 +179,8 @@ TEST(WumbleLife, neverHasTwoDaysInARowThatLookAlike) {
     for (unsigned seed = 1; seed <= 60; ++seed) {
         const auto days = Years(seed).run(200, seed % 3 == 0 ? 40 : 0);
         for (std::size_t place = 1; place < days.size(); ++place) {
-            const auto &before = days[place - 1], &day = days[place];
+            const auto& before = days[place - 1];
+            const auto& day = days[place];
             const auto gap =
                 DayKey::date(day.day, Calendar()).value() - DayKey::date(before.day, Calendar()).value();
             ASSERT_FALSE(gap == 86400 && looksLike(before.base, day.base))

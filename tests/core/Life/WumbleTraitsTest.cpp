@@ -110,7 +110,7 @@ TEST(WumbleTraits, whatIsStoredIsKeptFieldByFieldAndTheRestComesFromTheSeed) {
 }
 
 TEST(WumbleTraits, bothSpellingsOfTheTinyMouthAreReadAndTheNewOneIsWritten) {
-    constexpr std::string_view seedOfAnotherMouth = ""; // a cat's
+    constexpr std::string_view seedOfAnotherMouth; // a cat's
     for (const std::string spelling : {"tinyO", "tiny-o"}) {
         const auto traits = WumbleTraits::fromStored(Json::Object{{"mouth", spelling}}, seedOfAnotherMouth);
         ASSERT_TRUE(traits);

@@ -53,20 +53,19 @@ TEST(Storage, findsTheFolderByTheEnvironment) {
         fs::path expected;
     };
     const fs::path accountHome = ::getpwuid(::getuid())->pw_dir;
-    for (const auto& [chosen, dataHome, home, expected] :
-         {Case{"/somewhere/./else", "/data", "/home/anna", "/somewhere/./else"},
-          Case{"~/not expanded", "/data", "/home/anna", "~/not expanded"},
-          Case{"", "/data", "/home/anna", "/data/Quietlark"},
-          Case{"", "", "/home/anna", "/home/anna/.local/share/Quietlark"},
-          Case{"", "relative", "/home/anna", "/home/anna/.local/share/Quietlark"},
-          Case{"", "", "", accountHome / ".local/share/Quietlark"}}) {
+    for (const Case& each : {Case{"/somewhere/./else", "/data", "/home/anna", "/somewhere/./else"},
+                             Case{"~/not expanded", "/data", "/home/anna", "~/not expanded"},
+                             Case{"", "/data", "/home/anna", "/data/Quietlark"},
+                             Case{"", "", "/home/anna", "/home/anna/.local/share/Quietlark"},
+                             Case{"", "relative", "/home/anna", "/home/anna/.local/share/Quietlark"},
+                             Case{"", "", "", accountHome / ".local/share/Quietlark"}}) {
         const auto result = test::inChild([&]() -> std::string {
-            ::setenv("WUMBLE_DATA_DIR", chosen, 1);
-            ::setenv("XDG_DATA_HOME", dataHome, 1);
-            ::setenv("HOME", home, 1);
-            return Storage::defaultDirectory() == expected ? "" : Storage::defaultDirectory().string();
+            ::setenv("WUMBLE_DATA_DIR", each.chosen, 1);
+            ::setenv("XDG_DATA_HOME", each.dataHome, 1);
+            ::setenv("HOME", each.home, 1);
+            return Storage::defaultDirectory() == each.expected ? "" : Storage::defaultDirectory().string();
         });
-        EXPECT_EQ(result.complaint, "") << expected;
+        EXPECT_EQ(result.complaint, "") << each.expected;
     }
 }
 
@@ -302,7 +301,7 @@ TEST(Storage, passesAGigabyteOfGarbageByWithoutHoldingIt) {
         }
         rusage usage{};
         ::getrusage(RUSAGE_SELF, &usage);
-        constexpr long mostKilobytes = 400 * 1024;
+        constexpr long mostKilobytes = 400L * 1024;
         return usage.ru_maxrss < mostKilobytes ? "" : std::to_string(usage.ru_maxrss) + " KB were held";
     });
     EXPECT_EQ(result.complaint, "");

@@ -23,7 +23,7 @@ struct KeyFileDeleter {
 using KeyFile = std::unique_ptr<GKeyFile, KeyFileDeleter>;
 
 std::string taken(char* text) {
-    const std::string result = text == nullptr ? "" : text;
+    std::string result = text == nullptr ? "" : text;
     g_free(text);
     return result;
 }

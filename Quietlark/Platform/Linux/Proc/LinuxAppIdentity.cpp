@@ -21,7 +21,7 @@ bool isInterpreter(const std::string& program) {
 }
 
 std::string programName(const Processes& processes, int pid, const std::string& executable) {
-    const std::string program = fileName(executable);
+    std::string program = fileName(executable);
     if (!isInterpreter(program)) {
         return program;
     }

@@ -78,7 +78,7 @@ std::vector<std::string> Processes::commandLine(int pid) const {
 
 std::optional<std::string> Processes::sandboxID(int pid) const {
     const std::string groups = contents(pid, "cgroup");
-    if (const auto flatpak = between(groups, "app-flatpak-", "-")) {
+    if (auto flatpak = between(groups, "app-flatpak-", "-")) {
         return flatpak;
     }
     return between(groups, "snap.", ".");

@@ -1,0 +1,77 @@
+#include "Quietlark/AppDelegate.h"
+
+#include "Quietlark/Platform/Linux/LinuxPlatform.h"
+#include "WumbleCore/Storage/DataFolderLock.h"
+#include "WumbleCore/Storage/Storage.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+#include <string>
+#include <system_error>
+
+namespace quietlark {
+
+namespace {
+
+constexpr double demoBreakSeconds = 12;
+
+/// One spelling for one folder, so that two copies agree on which it is.
+std::filesystem::path standardized(const std::filesystem::path& folder) {
+    std::error_code failed;
+    const auto canonical =
+        std::filesystem::weakly_canonical(std::filesystem::absolute(folder, failed), failed);
+    return failed ? folder.lexically_normal() : canonical;
+}
+
+int refuse(const std::filesystem::path& folder) {
+    QtMainLoop loop;
+    makeLinuxPlatform(loop).copyNotice->postAnotherCopyStarted(folder.string());
+    std::printf(
+        "Quietlark is already running on %s. Set WUMBLE_DATA_DIR to another folder to run a second copy.\n",
+        folder.c_str());
+    return 0;
+}
+
+} // namespace
+
+AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options)
+    : platform_(makeLinuxPlatform(loop_)), sounds_(*platform_.soundOutput),
+      model_(folder, {.mainLoop = loop_,
+                      .platform = platform_,
+                      .sounds = &sounds_,
+                      .loginItem = platform_.loginItem.get(),
+                      .calendar = wumble::Calendar()}),
+      termination_([] { QCoreApplication::quit(); }) {
+    model_.start(AppModel::Running::ticking);
+    platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
+    platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });
+    carryOut(options);
+    if (model_.state().life.value().welcomed.value_or(true)) {
+        model_.greetToday();
+    }
+}
+
+AppDelegate::~AppDelegate() { model_.prepareForTermination(); }
+
+void AppDelegate::carryOut(const command::RunApplication& options) {
+    if (options.demoBreak) {
+        model_.startPreview(demoBreakSeconds);
+    }
+    if (options.enableLaunchAtLogin) {
+        model_.setOpenAtLogin(true);
+    }
+}
+
+int runApplication(const command::RunApplication& options) {
+    TerminationSignals::hold();
+    const auto folder = standardized(wumble::Storage::defaultDirectory());
+    const auto lock = wumble::DataFolderLock::take(folder);
+    if (!lock) {
+        return refuse(folder);
+    }
+    const AppDelegate delegate(folder, options);
+    return QCoreApplication::exec();
+}
+
+} // namespace quietlark

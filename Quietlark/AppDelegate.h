@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Quietlark/CommandLine.h"
+#include "Quietlark/Model/AppModel.h"
+#include "Quietlark/Model/CuePlayer.h"
+#include "Quietlark/Platform/Platform.h"
+#include "Quietlark/QtMainLoop.h"
+#include "Quietlark/TerminationSignals.h"
+
+#include <filesystem>
+
+namespace quietlark {
+
+/// The running program: it owns the model and what the model stands on, and saves when the process is asked to end.
+/// Needs a QCoreApplication.
+class AppDelegate {
+public:
+    /// `folder`: the data folder, whose lock the caller holds.
+    AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options);
+    ~AppDelegate();
+    AppDelegate(const AppDelegate&) = delete;
+    AppDelegate& operator=(const AppDelegate&) = delete;
+
+private:
+    void carryOut(const command::RunApplication& options);
+
+    QtMainLoop loop_;
+    Platform platform_;
+    CuePlayer sounds_;
+    AppModel model_;
+    TerminationSignals termination_;
+};
+
+/// Takes the folder and runs until the process is asked to end, or tells the copy that has the folder. Gives the exit
+/// status.
+int runApplication(const command::RunApplication& options);
+
+} // namespace quietlark

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace quietlark {
+
+/// What the arguments ask the process to be.
+namespace command {
+
+/// The program itself.
+struct RunApplication {
+    bool demoBreak = false;           ///< show a short preview at once
+    bool enableLaunchAtLogin = false; ///< and tell in the program whether that worked
+    bool operator==(const RunApplication&) const = default;
+};
+
+/// A report of what the detector sees now.
+struct Diagnose {
+    bool operator==(const Diagnose&) const = default;
+};
+
+struct WatchMicrophone {
+    double seconds = 120;
+    bool operator==(const WatchMicrophone&) const = default;
+};
+
+struct WatchCapture {
+    double seconds = 120;
+    bool operator==(const WatchCapture&) const = default;
+};
+
+/// The process ends with a complaint before it has touched anything.
+struct Refuse {
+    std::string complaint; ///< a whole line
+    int status = 0;
+    bool operator==(const Refuse&) const = default;
+};
+
+} // namespace command
+
+using Command = std::variant<command::RunApplication, command::Diagnose, command::WatchMicrophone,
+                             command::WatchCapture, command::Refuse>;
+
+/// `arguments` without the program's name. The option that stands first in the table of options decides, wherever it
+/// stands among the arguments; only when there is none does an unknown one matter.
+Command commandFor(const std::vector<std::string>& arguments);
+
+} // namespace quietlark

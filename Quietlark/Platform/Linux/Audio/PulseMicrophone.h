@@ -1,0 +1,66 @@
+#pragma once
+
+#include "Quietlark/Platform/Linux/Audio/Recordings.h"
+#include "Quietlark/Platform/Microphone.h"
+
+#include <filesystem>
+
+struct pa_client_info;
+struct pa_context;
+struct pa_glib_mainloop;
+struct pa_source_info;
+struct pa_source_output_info;
+
+namespace quietlark {
+
+/// The recordings of the sound server, followed by its own announcements. A server that is missing or has ended
+/// is looked for again every few seconds, and never started.
+class PulseMicrophone final : public Microphone {
+public:
+    static constexpr double secondsBetweenConnections = 3;
+
+    /// How long a server that has taken the connection may keep its first answer before the program goes on
+    /// without it.
+    static constexpr double longestFirstAnswer = 2;
+
+    /// `identity` must outlive it. `soundFolder` is the kernel's.
+    explicit PulseMicrophone(AppIdentity& identity, std::filesystem::path soundFolder = "/proc/asound");
+    ~PulseMicrophone() override;
+    PulseMicrophone(const PulseMicrophone&) = delete;
+    PulseMicrophone& operator=(const PulseMicrophone&) = delete;
+
+    bool ready() const override;
+    void refresh(double uptime) override;
+    std::optional<std::vector<AppRef>> recordingApps() const override { return apps_; }
+    bool physicalMicrophoneRunning() const override;
+
+private:
+    struct Callbacks;
+
+    void connect();
+    void disconnect();
+    void contextChanged();
+    void askForEverything();
+    void changed(unsigned event, std::uint32_t index);
+    void removed(unsigned facility, std::uint32_t index);
+    void told(const pa_client_info& client);
+    void told(const pa_source_info& source);
+    void told(const pa_source_output_info& stream);
+    void listEnded();
+    void findApps();
+
+    AppIdentity& identity_;
+    std::filesystem::path soundFolder_;
+    pa_glib_mainloop* mainLoop_ =
+        nullptr; ///< absent where the event loop isn't the one that the library knows
+    pa_context* context_ = nullptr;
+    std::optional<double> firstRefresh_;   ///< uptime
+    std::optional<double> lastConnection_; ///< uptime
+    double refreshed_ = 0;                 ///< uptime
+    bool hasAnswered_ = false;             ///< or refused
+    int listsAwaited_ = 0;                 ///< nothing is known before all have come
+    Recordings recordings_;
+    std::optional<std::vector<AppRef>> apps_;
+};
+
+} // namespace quietlark

@@ -1,0 +1,126 @@
+#include "WumbleCore/Foundation/Calendar.h"
+#include "tests/desktop/program/ProgramHome.h"
+#include "tests/lab/Spin.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <set>
+#include <string>
+
+namespace quietlark::lab {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A day in which a break of a second comes every two seconds, and nobody is away.
+void shortenTheDay(const ProgramHome& home) {
+    const wumble::Storage storage(home.data());
+    wumble::WumbleSettings settings;
+    settings.workInterval = 2;
+    settings.shortBreakDuration = 1;
+    settings.longBreaksEnabled = false;
+    settings.countdownDuration = 0;
+    settings.nudgesBetween = 0;
+    storage.save(settings);
+    wumble::WumbleLife life;
+    life.welcomed = true;
+    storage.save(life);
+}
+
+std::vector<wumble::BreakRecord> historyOf(const ProgramHome& home) {
+    return wumble::Storage(home.data()).loadHistory();
+}
+
+bool hasStarted(const ProgramHome& home) { return fs::exists(home.data() / "wumble.json"); }
+
+/// Whether it has come so far that a signal to end no longer ends it at once.
+bool takesSignals(const LabProcess& program) {
+    const std::string status = wumble::test::bytesOf("/proc/" + std::to_string(program.pid()) + "/status");
+    const std::size_t line = status.find("SigBlk:");
+    return line != std::string::npos &&
+           (std::stoull(status.substr(line + 7), nullptr, 16) & 1U << (SIGTERM - 1)) != 0;
+}
+
+TEST(Process, aBadOptionEndsItBeforeAnyFolderIsTouched) {
+    const ProgramHome home;
+    EXPECT_EQ(home.start({"--nonsense"})->wait(), 64);
+    EXPECT_EQ(home.start({"--appearance", "sepia"})->wait(), 2);
+    EXPECT_EQ(home.errors(), "Unknown option --nonsense, so Quietlark isn't starting.\n"
+                             "--appearance takes light, dark or system\n");
+    EXPECT_FALSE(fs::exists(home.data()));
+}
+
+TEST(Process, oneCopyAFolderHoweverItIsSpelled) {
+    const ProgramHome home;
+    const auto first = home.start();
+    ASSERT_TRUE(spinUntil([&] { return hasStarted(home); }));
+    fs::create_directory_symlink(home.data(), home.home() / "link");
+    const std::string folder = fs::canonical(home.data()).string();
+    for (const std::string& spelling :
+         {folder, folder + "/", (home.home() / "link").string(), (home.home() / "../data").string()}) {
+        const auto second = home.start({}, {{"WUMBLE_DATA_DIR", spelling}});
+        EXPECT_EQ(second->readAll(), "Quietlark is already running on " + folder +
+                                         ". Set WUMBLE_DATA_DIR to another folder to run a second copy.\n");
+        EXPECT_EQ(second->wait(), 0);
+    }
+    EXPECT_EQ(first->wait(0), std::nullopt) << "the first goes on";
+    const auto elsewhere = home.start({}, {{"WUMBLE_DATA_DIR", (home.home() / "other").string()}});
+    EXPECT_TRUE(spinUntil([&] { return fs::exists(home.home() / "other/wumble.json"); }));
+}
+
+TEST(Process, savesWhenItIsAskedToEnd) {
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        const ProgramHome home;
+        const auto program = home.start();
+        ASSERT_TRUE(spinUntil([&] { return hasStarted(home); }));
+        program->signal(number);
+        EXPECT_EQ(program->wait(), 0) << number;
+        EXPECT_TRUE(wumble::Storage(home.data()).loadSnapshot().has_value()) << number;
+    }
+}
+
+TEST(Process, runsWithoutAnyServiceAndInAFolderThatCannotBeWritten) {
+    const ProgramHome home;
+    const auto program = home.start({}, {{"WUMBLE_DATA_DIR", "/proc/nowhere"}});
+    ASSERT_TRUE(spinUntil([&] { return takesSignals(*program); }));
+    program->signal(SIGTERM);
+    EXPECT_EQ(program->wait(), 0);
+}
+
+TEST(Process, comesBackRightHoweverOftenItIsKilled) {
+    const ProgramHome home;
+    shortenTheDay(home);
+    constexpr std::size_t enough = 4;
+    unsigned round = 0;
+    while (historyOf(home).size() < enough) {
+        ASSERT_LT(++round, 60U) << "breaks no longer come";
+        const std::size_t before = historyOf(home).size();
+        const auto program = home.start();
+        // Killed after a break was written, or at some other moment of the round.
+        if (round % 2 == 0) {
+            spinUntil([&] { return historyOf(home).size() > before; }, 6);
+        } else {
+            program->wait(0.1 * static_cast<double>(round % 23));
+        }
+        program->signal(SIGKILL);
+        ASSERT_EQ(program->wait(), 128 + SIGKILL) << home.errors();
+    }
+    std::set<std::string> identifiers;
+    for (const auto& record : historyOf(home)) {
+        EXPECT_TRUE(identifiers.insert(record.id.text()).second) << "a break stands there twice";
+        EXPECT_EQ(record.outcome, wumble::BreakOutcome::completed);
+    }
+    const auto life = wumble::Storage(home.data()).loadLife();
+    ASSERT_FALSE(life.days.empty());
+    wumble::Counter rests = 0;
+    for (const auto& [key, day] : life.days) {
+        rests += day.rests;
+    }
+    // A kill between the two files may cost one rest at most, and never adds one.
+    const auto finished = static_cast<wumble::Counter>(identifiers.size());
+    EXPECT_LE(rests, finished);
+    EXPECT_GE(rests, finished - static_cast<wumble::Counter>(round));
+}
+
+} // namespace
+} // namespace quietlark::lab

@@ -1,0 +1,62 @@
+#include "tests/desktop/window-system/XSession.h"
+
+namespace quietlark {
+
+namespace {
+
+using X11Input = test::XSession;
+
+TEST_F(X11Input, keysAndThePointersWayEndIdleTime) {
+    EXPECT_FALSE(input->secondsSinceKeyDown());
+    ASSERT_TRUE(until([this] { return input->secondsSinceAnyInput() > 0.4; }));
+    server->run({"xdotool", "key", "a"});
+    const double pressed = test::uptime();
+    ASSERT_TRUE(until([this] { return input->secondsSinceKeyDown().has_value(); }));
+    EXPECT_LT(*input->secondsSinceAnyInput(), 0.4);
+    ASSERT_TRUE(until([this] { return input->secondsSinceAnyInput() > 0.4; }));
+    EXPECT_NEAR(*input->secondsSinceKeyDown(), desktop->uptime() - pressed, 0.3);
+
+    const double beforeTheMove = *input->secondsSinceKeyDown();
+    server->run({"xdotool", "mousemove", "100", "100"});
+    EXPECT_TRUE(until([this] { return input->secondsSinceAnyInput() < 0.2; }));
+    EXPECT_GE(*input->secondsSinceKeyDown(), beforeTheMove) << "a move of the pointer presses no key";
+    EXPECT_FALSE(input->secondsSinceLeftMouseDown());
+}
+
+TEST_F(X11Input, eachButtonHasItsTimesAndIsHeldUntilItIsLetGo) {
+    const auto held = [this](bool left, bool right) {
+        return until(
+            [=, this] { return input->leftButtonHeld() == left && input->rightButtonHeld() == right; });
+    };
+    server->run({"xdotool", "mousedown", "1"});
+    EXPECT_TRUE(held(true, false));
+    EXPECT_LT(*input->secondsSinceLeftMouseDown(), 2);
+    EXPECT_FALSE(input->secondsSinceRightMouseDown());
+    server->run({"xdotool", "mousedown", "3"});
+    EXPECT_TRUE(held(true, true));
+    EXPECT_TRUE(input->secondsSinceRightMouseDown());
+    server->run({"xdotool", "mouseup", "1"});
+    EXPECT_TRUE(held(false, true));
+    server->run({"xdotool", "mouseup", "3", "click", "2", "click", "5"});
+    EXPECT_TRUE(held(false, false));
+    EXPECT_FALSE(input->secondsSinceKeyDown());
+}
+
+TEST_F(X11Input, aServerWithoutPowerLevelsSaysNothingOfTheDisplays) {
+    EXPECT_EQ(desktop->power().areAsleep(), std::nullopt);
+}
+
+TEST(X11Clock, countsOnWhereTheServersTimeBeginsAgain) {
+    X11Clock clock;
+    const X11Time before = clock.read(0xffffff00);
+    EXPECT_FALSE(clock.uptime(before));
+    clock.pair(before, 100);
+    const X11Time after = clock.read(0x100);
+    EXPECT_EQ(after - before, 0x200);
+    EXPECT_NEAR(*clock.uptime(after), 100.512, 1e-6);
+    EXPECT_NEAR(*clock.uptime(clock.read(0xffffff00)), 100, 1e-6);
+}
+
+} // namespace
+
+} // namespace quietlark
