@@ -104,7 +104,7 @@ void AppModel::later(double seconds, std::function<void()> task) {
     });
 }
 
-void AppModel::play(wumble::Cue cue, double share) {
+void AppModel::play(wumble::Cue cue, double share) const {
     if (services_.sounds != nullptr) {
         services_.sounds->play(cue, share * state_.settings.value().volume);
     }
@@ -119,7 +119,7 @@ void AppModel::playFun(wumble::Cue cue) {
 
 void AppModel::petWasPoked(wumble::WumbleGesture gesture) { playFun(cueOf(gesture)); }
 
-void AppModel::announce(const std::string& sentence) {
+void AppModel::announce(const std::string& sentence) const {
     if (services_.accessibility != nullptr) {
         services_.accessibility->announce(sentence);
     }

@@ -182,8 +182,8 @@ private:
     wumble::Date takeTime();
     void later(double seconds, std::function<void()> task);
     void changeLife(const std::function<void(wumble::WumbleLife&)>& change);
-    void play(wumble::Cue cue, double share = 1.0);
-    void announce(const std::string& sentence);
+    void play(wumble::Cue cue, double share = 1.0) const;
+    void announce(const std::string& sentence) const;
     bool isAnybodyKeptOut() const;
 
     // The loop.
@@ -195,14 +195,14 @@ private:
     bool isTypingNow(double secondsSinceKeyDown) const;
     std::optional<wumble::SmartActivity> shareUnderCall() const;
     void endOnTheBeat();
-    void captureChanged();
+    void captureChanged() const;
 
     // The break screen.
     void beginBreakScreen(const wumble::ActiveBreak& begun, bool resuming);
     void chooseBreakWords(const wumble::ActiveBreak& begun, bool afterCall);
     void rememberPreviousApp();
     void keepMachineFor(const wumble::ActiveBreak& begun, bool resuming);
-    void finish(const wumble::BreakRecord& record);
+    void finish(const wumble::BreakRecord& finished);
     void celebrate(const wumble::BreakRecord& finished, const std::optional<std::string>& gained);
     void finishWithoutScreen(const std::optional<std::string>& gained);
     Growth record(const wumble::BreakRecord& record);

@@ -138,7 +138,7 @@ void AppModel::publishEngine() {
 }
 
 /// The notes are shown or hidden by who watches.
-void AppModel::captureChanged() {
+void AppModel::captureChanged() const {
     for (CaptureSensitive* surface :
          {static_cast<CaptureSensitive*>(surfaces_.headsUp), static_cast<CaptureSensitive*>(surfaces_.toasts),
           static_cast<CaptureSensitive*>(surfaces_.countdown)}) {

@@ -73,7 +73,7 @@ std::string backLine(const std::optional<wumble::Date>& next, wumble::Date now,
     if (!next) {
         return "on your next workday";
     }
-    const std::string atTime = "at " + calendar.shortTime(*next);
+    std::string atTime = "at " + calendar.shortTime(*next);
     switch (nearness(*next, now, calendar)) {
     case Nearness::sameDay: return atTime;
     case Nearness::nextDay: return "tomorrow " + atTime;

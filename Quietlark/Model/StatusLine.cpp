@@ -93,7 +93,7 @@ std::string typingLine(const AppState& state) {
 }
 
 std::string runningLine(const AppState& state) {
-    const std::string plain = breakIn(state);
+    std::string plain = breakIn(state);
     if (notWaitingShown(state)) {
         return joined("Not waiting till your next break", uncapitalized(plain));
     }

@@ -309,7 +309,7 @@ class SimulatedLives : public testing::TestWithParam<unsigned> {};
 
 } // namespace
 
-TEST_P(SimulatedLives, holdTogetherWhateverHappens) { SimulatedLife(GetParam()).live(21); }
+TEST_P(SimulatedLives, holdTogetherWhateverHappens) { SimulatedLife(GetParam()).live(14); }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, SimulatedLives, testing::Range(1U, 7U));
 
