@@ -1,0 +1,143 @@
+#include "Quietlark/Model/CuePlayer.h"
+#include "Quietlark/Platform/Linux/Audio/PulseSoundOutput.h"
+#include "Quietlark/QtMainLoop.h"
+#include "tests/lab/SoundLab.h"
+#include "tests/lab/Spin.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <cmath>
+#include <csignal>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <numbers>
+
+namespace quietlark::lab {
+namespace {
+
+using wumble::Cue;
+
+constexpr double sampleRate = 44'100;
+
+/// How strong a pitch is in samples, 1 for a pure tone of full loudness.
+double strength(std::span<const float> samples, double frequency) {
+    const double turn = 2 * std::cos(2 * std::numbers::pi * frequency / sampleRate);
+    double now = 0;
+    double before = 0;
+    for (const float sample : samples) {
+        before = std::exchange(now, static_cast<double>(sample) + turn * now - before);
+    }
+    const double power = now * now + before * before - turn * now * before;
+    return 2 * std::sqrt(std::max(power, 0.0)) / static_cast<double>(samples.size());
+}
+
+class CuePlayerTest : public testing::Test {
+protected:
+    void SetUp() override {
+        for (const char* program : {"pipewire", "wireplumber", "pipewire-pulse", "parecord", "pactl"}) {
+            LAB_NEEDS(program);
+        }
+        ASSERT_TRUE(lab.start());
+        outputOf({"pactl", "set-default-sink", "speakers"}, lab.environment());
+    }
+
+    /// Records what the speakers play while `act` runs, in windows of a twentieth of a second.
+    std::vector<std::vector<float>> hear(const std::function<void()>& act) {
+        const std::string file = (folder / "heard").string();
+        wumble::test::write(file, "");
+        auto recorder = lab.run({"parecord", "--raw", "--format=float32ne", "--rate=44100", "--channels=1",
+                                 "--latency-msec=20", "--device=speakers.monitor", file});
+        EXPECT_TRUE(spinUntil([&] { return std::filesystem::file_size(file) > 0; }));
+        act();
+        recorder->signal(SIGINT);
+        recorder->wait();
+        const std::string bytes = wumble::test::bytesOf(file);
+        constexpr std::size_t window = 2205;
+        std::vector<std::vector<float>> windows;
+        for (std::size_t at = 0; at + window * sizeof(float) <= bytes.size(); at += window * sizeof(float)) {
+            std::memcpy(windows.emplace_back(window).data(), bytes.data() + at, window * sizeof(float));
+        }
+        return windows;
+    }
+
+    double loudest(const std::vector<std::vector<float>>& windows, double frequency) const {
+        double most = 0;
+        for (const auto& window : windows) {
+            most = std::max(most, strength(window, frequency));
+        }
+        return most;
+    }
+
+    /// Plays and waits until it has died away.
+    void playOut(Cue cue, double volume) {
+        player.play(cue, volume);
+        EXPECT_TRUE(output.isConnected());
+        EXPECT_TRUE(spinUntil([&] { return !output.isConnected(); }));
+    }
+
+    SoundLab lab;
+    wumble::test::TemporaryFolder folder;
+    QtMainLoop loop;
+    PulseSoundOutput output{loop};
+    CuePlayer player{output};
+};
+
+TEST_F(CuePlayerTest, eachCueIsHeardAtItsPitch) {
+    struct Case {
+        Cue cue;
+        std::vector<double> pitches; ///< Hz
+    };
+    const Case cases[] = {
+        {Cue::breakStart, {659.25, 523.25}},
+        {Cue::breakEnd, {523.25, 659.25, 783.99}},
+        {Cue::headsUp, {783.99}},
+        {Cue::reminder, {880}},
+        {Cue::gentleNo, {329.63, 293.66}},
+        {Cue::boop, {320}},
+        {Cue::hello, {680, 900}},
+        {Cue::giggle, {870, 1000}},
+        {Cue::dizzy, {400}},
+        {Cue::boing, {600}},
+        {Cue::pop, {1568}},
+    };
+    constexpr double unheard = 4000;
+    for (const Case& each : cases) {
+        const auto heard = hear([&] { playOut(each.cue, 1); });
+        for (const double pitch : each.pitches) {
+            EXPECT_GT(loudest(heard, pitch), 0.02) << wumble::enumText(each.cue) << " " << pitch;
+            EXPECT_GT(loudest(heard, pitch), 10 * loudest(heard, unheard)) << wumble::enumText(each.cue);
+        }
+    }
+}
+
+TEST_F(CuePlayerTest, cuesOverlapAtTheirOwnVolumeAndNothingOpensAtNone) {
+    player.play(Cue::reminder, 0);
+    EXPECT_FALSE(output.isConnected());
+    const double alone = loudest(hear([&] { playOut(Cue::reminder, 0.5); }), 880);
+    const double full = loudest(hear([&] { playOut(Cue::reminder, 1); }), 880);
+    EXPECT_NEAR(alone / full, 0.5, 0.1);
+    const auto both = hear([&] {
+        player.play(Cue::breakStart, 1);
+        playOut(Cue::reminder, 1);
+    });
+    bool atOnce = false;
+    for (const auto& window : both) {
+        atOnce = atOnce || (strength(window, 880) > 0.05 && strength(window, 659.25) > 0.05);
+    }
+    EXPECT_TRUE(atOnce);
+    EXPECT_EQ(outputOf({"pactl", "list", "short", "sink-inputs"}, lab.environment()), "")
+        << "a stream was left open";
+}
+
+TEST_F(CuePlayerTest, aServerThatEndsTakesTheSoundWithItAndTheNextOneIsHeard) {
+    player.play(Cue::breakStart, 1);
+    lab.stop();
+    EXPECT_TRUE(spinUntil([&] { return !output.isConnected(); }));
+    player.play(Cue::breakStart, 1);
+    EXPECT_TRUE(spinUntil([&] { return !output.isConnected(); })) << "nobody to connect to";
+    ASSERT_TRUE(lab.start());
+    outputOf({"pactl", "set-default-sink", "speakers"}, lab.environment());
+    EXPECT_GT(loudest(hear([&] { playOut(Cue::reminder, 1); }), 880), 0.02);
+}
+
+} // namespace
+} // namespace quietlark::lab
