@@ -10,9 +10,9 @@ const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Propert
 
 } // namespace
 
-BusSessionWatch::BusSessionWatch(std::shared_ptr<Bus> session, std::shared_ptr<LogindSession> logind,
+BusSessionWatch::BusSessionWatch(const Buses& buses, std::shared_ptr<LogindSession> logind,
                                  std::function<std::optional<bool>()> displaysAsleep)
-    : logind_(std::move(logind)), savers_(session), displays_(session),
+    : buses_(buses), logind_(std::move(logind)), savers_(buses.session), displays_(buses.session),
       sampleDisplays_(std::move(displaysAsleep)) {
     logind_->observe([this] { gather(); });
     savers_.observe([this] { gather(); });
@@ -47,7 +47,8 @@ void BusSessionWatch::askDisplays() {
 
 bool BusSessionWatch::ready() const { return logind_->settled() && savers_.settled(); }
 
-void BusSessionWatch::refresh(double) {
+void BusSessionWatch::refresh(double uptime) {
+    buses_.refresh(uptime);
     sampledAsleep_ = sampleDisplays_ && sampleDisplays_().value_or(false);
     gather();
 }

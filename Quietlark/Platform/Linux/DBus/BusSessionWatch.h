@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quietlark/Platform/Linux/DBus/Buses.h"
 #include "Quietlark/Platform/Linux/DBus/LogindSession.h"
 #include "Quietlark/Platform/Linux/DBus/ScreenSavers.h"
 #include "Quietlark/Platform/SessionWatch.h"
@@ -13,7 +14,7 @@ namespace quietlark {
 class BusSessionWatch : public SessionWatch {
 public:
     /// `displaysAsleep` is asked once a refresh, for desktops that don't tell it on the bus; it may be empty.
-    BusSessionWatch(std::shared_ptr<Bus> session, std::shared_ptr<LogindSession> logind,
+    BusSessionWatch(const Buses& buses, std::shared_ptr<LogindSession> logind,
                     std::function<std::optional<bool>()> displaysAsleep);
     ~BusSessionWatch() override;
 
@@ -27,6 +28,7 @@ private:
     void askDisplays();
     void gather();
 
+    Buses buses_;
     std::shared_ptr<LogindSession> logind_;
     ScreenSavers savers_;
     BusLink displays_;
