@@ -6,38 +6,21 @@
 
 namespace quietlark {
 
-namespace {
+void BusScreenLock::lockNow() { trySaver(0, 0); }
 
-struct Door {
-    QString service;
-    QString path;
-};
-
-QList<Door> saverDoors() {
-    QList<Door> doors;
-    for (const QString& service : ScreenSavers::services()) {
-        for (const QString& path : ScreenSavers::paths(service)) {
-            doors.append({service, path});
-        }
-    }
-    return doors;
-}
-
-} // namespace
-
-void BusScreenLock::lockNow() { trySaver(0); }
-
-void BusScreenLock::trySaver(qsizetype index) {
-    static const QList<Door> doors = saverDoors();
-    if (index >= doors.size()) {
+void BusScreenLock::trySaver(qsizetype index, qsizetype pathIndex) {
+    if (index >= ScreenSavers::services().size()) {
         tryLogind();
         return;
     }
-    const Door& door = doors[index];
-    savers_.call({door.service, door.path, door.service, QStringLiteral("Lock")}, {},
-                 [this, index](const QDBusMessage& reply) {
-                     if (reply.type() != QDBusMessage::ReplyMessage) {
-                         trySaver(index + 1);
+    const QString service = ScreenSavers::services()[index];
+    const QStringList paths = ScreenSavers::paths(service);
+    savers_.call({service, paths[pathIndex], service, QStringLiteral("Lock")}, {},
+                 [this, index, pathIndex, last = paths.size() - 1](const QDBusMessage& reply) {
+                     if (ScreenSavers::isElsewhere(reply) && pathIndex < last) {
+                         trySaver(index, pathIndex + 1);
+                     } else if (reply.type() != QDBusMessage::ReplyMessage) {
+                         trySaver(index + 1, 0);
                      }
                  });
 }

@@ -16,7 +16,7 @@ public:
     void lockNow() override;
 
 private:
-    void trySaver(qsizetype index);
+    void trySaver(qsizetype index, qsizetype pathIndex);
     void tryLogind();
     static void runProgram();
 

@@ -1,6 +1,8 @@
 #include "Quietlark/Platform/Linux/DBus/ScreenSavers.h"
 
+#include <QDBusError>
 #include <algorithm>
+#include <utility>
 
 namespace quietlark {
 
@@ -16,6 +18,12 @@ const QStringList& ScreenSavers::services() {
 QStringList ScreenSavers::paths(const QString& service) {
     const QString named = u'/' + QString(service).replace(u'.', u'/');
     return {named, QStringLiteral("/ScreenSaver"), QStringLiteral("/")};
+}
+
+bool ScreenSavers::isElsewhere(const QDBusMessage& answer) {
+    const auto error = QDBusError(answer).type();
+    return error == QDBusError::UnknownObject || error == QDBusError::UnknownMethod ||
+           error == QDBusError::UnknownInterface;
 }
 
 ScreenSavers::ScreenSavers(std::shared_ptr<Bus> session) : link_(std::move(session)) {
@@ -45,16 +53,14 @@ bool ScreenSavers::anyIsActive() const {
 
 void ScreenSavers::ask(const QString& service, qsizetype pathIndex) {
     const QStringList candidates = paths(service);
-    if (pathIndex >= candidates.size()) {
-        savers_[service].answered = true;
-        return;
-    }
     link_.call({service, candidates[pathIndex], service, QStringLiteral("GetActive")}, {},
-               [this, service, pathIndex](const QDBusMessage& reply) {
-                   if (reply.type() == QDBusMessage::ReplyMessage) {
+               [this, service, pathIndex, last = candidates.size() - 1](const QDBusMessage& reply) {
+                   if (isElsewhere(reply) && pathIndex < last) {
+                       ask(service, pathIndex + 1);
+                   } else if (reply.type() == QDBusMessage::ReplyMessage) {
                        set(service, link_.isRunning(service) && reply.arguments().value(0).toBool());
                    } else {
-                       ask(service, pathIndex + 1);
+                       savers_[service].answered = true;
                    }
                });
 }

@@ -25,6 +25,9 @@ public:
     /// The objects that stand for one of them, by likelihood.
     static QStringList paths(const QString& service);
 
+    /// Whether an answer says that the object asked isn't the one: another path may be.
+    static bool isElsewhere(const QDBusMessage& answer);
+
 private:
     struct Saver {
         bool answered = false;
