@@ -1,0 +1,153 @@
+#include "Quietlark/Platform/Linux/DBus/Bus.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <utility>
+
+namespace quietlark {
+
+namespace {
+
+constexpr double secondsBetweenAttempts = 5;
+
+QDBusConnection noConnection() { return QDBusConnection(QStringLiteral("quietlark-none")); }
+
+QString nextConnectionName() {
+    static std::atomic<int> count = 0;
+    return QStringLiteral("quietlark-%1").arg(++count);
+}
+
+} // namespace
+
+/// A daemon that doesn't answer its greeting holds whoever connects for as long as it likes, so that is done on a
+/// thread of its own.
+struct Bus::Attempt {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::optional<QDBusConnection> result;
+    Bus* bus = nullptr; ///< who still waits for it; main thread only
+
+    bool waitFor(double seconds) {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, std::chrono::duration<double>(seconds),
+                                [this] { return result.has_value(); });
+    }
+};
+
+Bus::Bus(QString address) : address_(std::move(address)), connection_(noConnection()) {
+    if (address_.isEmpty()) {
+        settled_ = true;
+    } else {
+        beginAttempt();
+    }
+}
+
+Bus::~Bus() {
+    if (attempt_) {
+        attempt_->bus = nullptr;
+    }
+    if (connected_) {
+        QDBusConnection::disconnectFromBus(connection_.name());
+    }
+}
+
+QString Bus::sessionAddress() {
+    const QString named = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    const QString socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
+    if (named.isEmpty() && QFileInfo::exists(socket)) {
+        return QStringLiteral("unix:path=") + socket;
+    }
+    return named;
+}
+
+QString Bus::systemAddress() {
+    return qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS",
+                                QStringLiteral("unix:path=/run/dbus/system_bus_socket"));
+}
+
+void Bus::beginAttempt() {
+    attempt_ = std::make_shared<Attempt>();
+    attempt_->bus = this;
+    std::thread([attempt = attempt_, address = address_, loop = QCoreApplication::instance()] {
+        const QDBusConnection made = QDBusConnection::connectToBus(address, nextConnectionName());
+        {
+            const std::scoped_lock lock(attempt->mutex);
+            attempt->result = made;
+        }
+        attempt->changed.notify_all();
+        const auto arrive = [attempt] {
+            if (attempt->bus != nullptr) {
+                attempt->bus->take(*attempt->result);
+            }
+        };
+        QMetaObject::invokeMethod(loop, arrive, Qt::QueuedConnection);
+    }).detach();
+}
+
+void Bus::take(const QDBusConnection& connection) {
+    attempt_->bus = nullptr;
+    attempt_.reset();
+    settled_ = true;
+    if (!connection.isConnected()) {
+        QDBusConnection::disconnectFromBus(connection.name());
+        return;
+    }
+    connection_ = connection;
+    connected_ = true;
+    for (Subscription& subscription : subscriptions_) {
+        attach(subscription);
+    }
+    tell(&Observer::came);
+}
+
+void Bus::lose() {
+    QDBusConnection::disconnectFromBus(connection_.name());
+    connection_ = noConnection();
+    connected_ = false;
+    tell(&Observer::went);
+}
+
+void Bus::tell(std::function<void()> Observer::*what) {
+    for (const Observer& observer : observers_) {
+        (observer.*what)();
+    }
+}
+
+void Bus::attach(Subscription& subscription) {
+    const BusSignal& signal = subscription.signal;
+    // A service named here would be asked for at once, and waited for: senders are told apart on arrival instead.
+    connection_.connect(QString(), signal.path, signal.interface, signal.member, signal.firstArguments,
+                        QString(), subscription.receiver.get(), SignalReceiver::slot());
+}
+
+void Bus::refresh(double uptime) {
+    if (connected_ && !connection_.isConnected()) {
+        lose();
+    }
+    if (!connected_ && !attempt_ && !address_.isEmpty() && uptime >= nextAttempt_) {
+        nextAttempt_ = uptime + secondsBetweenAttempts;
+        beginAttempt();
+    }
+}
+
+bool Bus::waitUntilConnected(double seconds) {
+    if (const auto attempt = attempt_; attempt && attempt->waitFor(seconds)) {
+        take(*attempt->result);
+    }
+    return connected_;
+}
+
+void Bus::flush(double seconds) {
+    const QDBusMessage question = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId"));
+    connection_.call(question, QDBus::Block, static_cast<int>(seconds * 1000));
+}
+
+} // namespace quietlark

@@ -1,0 +1,110 @@
+#include "Quietlark/Platform/Linux/DBus/LogindSession.h"
+
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <unistd.h>
+
+namespace quietlark {
+
+const QString LogindSession::service = QStringLiteral("org.freedesktop.login1");
+const QString LogindSession::managerPath = QStringLiteral("/org/freedesktop/login1");
+const QString LogindSession::managerInterface = QStringLiteral("org.freedesktop.login1.Manager");
+const QString LogindSession::sessionInterface = QStringLiteral("org.freedesktop.login1.Session");
+
+namespace {
+
+struct Way {
+    QString member;
+    QVariant argument;
+};
+
+/// A program that the user's service manager started belongs to no session: its environment may name one, and
+/// "auto" is then the session of the user's display.
+QList<Way> waysToOwnSession() {
+    QList<Way> ways = {{QStringLiteral("GetSessionByPID"), QVariant(static_cast<unsigned>(getpid()))}};
+    if (const QString named = qEnvironmentVariable("XDG_SESSION_ID"); !named.isEmpty()) {
+        ways.append({QStringLiteral("GetSession"), named});
+    }
+    ways.append({QStringLiteral("GetSession"), QStringLiteral("auto")});
+    return ways;
+}
+
+} // namespace
+
+LogindSession::LogindSession(std::shared_ptr<Bus> system) : link_(std::move(system)) {
+    link_.onSignal({managerPath, managerInterface, QStringLiteral("PrepareForSleep")},
+                   [this](const QDBusMessage& message) {
+                       if (link_.isOwner(service, message)) {
+                           setPreparingForSleep(message.arguments().value(0).toBool());
+                       }
+                   });
+    link_.followService(
+        service, [this] { find(); },
+        [this] {
+            found_ = false;
+            setPreparingForSleep(false);
+        });
+}
+
+bool LogindSession::settled() const { return found_ || (link_.knows(service) && !link_.isRunning(service)); }
+
+void LogindSession::find() {
+    link_.getProperty({service, managerPath, managerInterface, QStringLiteral("PreparingForSleep")},
+                      [this](const QVariant& value) { setPreparingForSleep(value.toBool()); });
+    tryWay(0);
+}
+
+void LogindSession::tryWay(qsizetype index) {
+    const QList<Way> ways = waysToOwnSession();
+    if (index >= ways.size()) {
+        setPath({});
+        return;
+    }
+    link_.call({service, managerPath, managerInterface, ways[index].member}, {ways[index].argument},
+               [this, index](const QDBusMessage& reply) {
+                   const auto path = qvariant_cast<QDBusObjectPath>(reply.arguments().value(0)).path();
+                   reply.type() == QDBusMessage::ReplyMessage ? setPath(path) : tryWay(index + 1);
+               });
+}
+
+void LogindSession::setPath(const QString& path) {
+    path_ = path;
+    if (path.isEmpty()) {
+        found_ = true;
+        setLocked(false);
+        return;
+    }
+    if (path != followedPath_) {
+        followedPath_ = path;
+        link_.onSignal({path,
+                        QStringLiteral("org.freedesktop.DBus.Properties"),
+                        QStringLiteral("PropertiesChanged"),
+                        {sessionInterface}},
+                       [this](const QDBusMessage&) { askLocked(); });
+    }
+    askLocked();
+}
+
+void LogindSession::askLocked() {
+    link_.getProperty({service, path_, sessionInterface, QStringLiteral("LockedHint")},
+                      [this](const QVariant& value) {
+                          found_ = true;
+                          if (value.isValid()) {
+                              setLocked(value.toBool());
+                          }
+                      });
+}
+
+void LogindSession::setLocked(bool locked) {
+    if (std::exchange(locked_, locked) != locked) {
+        changed_();
+    }
+}
+
+void LogindSession::setPreparingForSleep(bool preparing) {
+    if (std::exchange(preparingForSleep_, preparing) != preparing) {
+        changed_();
+    }
+}
+
+} // namespace quietlark
