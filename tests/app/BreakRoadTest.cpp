@@ -50,7 +50,7 @@ TEST(BreakRoad, aQuickBreakGoesFromTheCountdownToTheRevealAndGivesTheKeyboardBac
     EXPECT_EQ(driver.desktop.activated, std::vector{*driver.desktop.frontWindow});
     ASSERT_EQ(driver.state().history.value().size(), 1U);
     EXPECT_EQ(wumble::Storage(driver.folder.path()).loadHistory().size(), 1U);
-    EXPECT_FALSE(driver.desktop.keepsAwake);
+    EXPECT_FALSE(driver.desktop.assertionHeld);
 }
 
 TEST(BreakRoad, aBreakThatRevealsNothingClosesSooner) {
@@ -106,20 +106,20 @@ TEST(BreakRoad, aRevealWaitsForThePersonNotForTheUnlockedScreen) {
     for (const auto& [away, replays] : {HeldCase{5, false}, HeldCase{60, true}}) {
         ModelDriver driver;
         driver.model().startBreak(wumble::BreakKind::longBreak, std::nullopt);
-        EXPECT_TRUE(driver.desktop.keepsAwake);
-        EXPECT_EQ(driver.desktop.awakeReason, "Quietlark long break");
+        EXPECT_TRUE(driver.desktop.assertionHeld);
+        EXPECT_EQ(driver.desktop.assertions, std::vector<std::string>{"Quietlark long break"});
         driver.run(200);
-        driver.desktop.lockScreen();
-        driver.desktop.sinceAnyInput = 100;
+        driver.lockScreen();
+        driver.desktop.idleSeconds = 100;
         driver.run(101);
-        EXPECT_FALSE(driver.desktop.keepsAwake) << "nobody is there to look";
+        EXPECT_FALSE(driver.desktop.assertionHeld) << "nobody is there to look";
         const auto token = driver.state().revealToken.value();
         driver.run(away);
-        driver.desktop.lockScreen(false);
+        driver.lockScreen(false);
         driver.run(1);
         EXPECT_TRUE(driver.overlay.isUp) << "an unlocked screen is no person yet";
         driver.told();
-        driver.desktop.sinceAnyInput = 0.2;
+        driver.desktop.idleSeconds = 0.2;
         driver.run(1);
         EXPECT_EQ(driver.state().revealToken.value() != token, replays);
         EXPECT_TRUE(driver.overlay.isUp);

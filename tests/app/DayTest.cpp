@@ -56,8 +56,8 @@ TEST(Day, theGreetingWaitsForTheEndOfAShare) {
 TEST(Day, rollsAtMidnightAndTakesYesterdaysHeldRevealAway) {
     ModelDriver driver([](auto&) {}, at("2026-03-09T22:55:00Z"));
     driver.model().startBreak(wumble::BreakKind::shortBreak, std::nullopt);
-    driver.desktop.lockScreen();
-    driver.desktop.sinceAnyInput = 60;
+    driver.lockScreen();
+    driver.desktop.idleSeconds = 60;
     driver.run(280);
     EXPECT_TRUE(driver.overlay.isUp);
     driver.run(30);
@@ -96,7 +96,7 @@ TEST(Day, recapsComeOneAMinuteTheMonthFirstAndNeverIntoAWait) {
 TEST(Day, aNewFolderOwesTheWelcomeWhichIsItsGreeting) {
     wumble::test::TemporaryFolder empty;
     ModelDriver driver;
-    Platform platform = fakePlatform(driver.desktop);
+    Platform platform = driver.platform();
     auto services = driver.services();
     AppModel model(empty.path(), {.mainLoop = driver.loop,
                                   .platform = platform,

@@ -18,9 +18,9 @@ struct Situation {
 };
 
 void comeBackAfter(ModelDriver& driver, double seconds) {
-    driver.desktop.lockScreen();
+    driver.lockScreen();
     driver.run(seconds);
-    driver.desktop.lockScreen(false);
+    driver.lockScreen(false);
     driver.run(1.5);
 }
 

@@ -67,7 +67,7 @@ private:
     }
 
     void workUntil(double hour) {
-        driver_.desktop.lockScreen(false);
+        driver_.lockScreen(false);
         const wumble::Date end = driver_.loop.now() + std::max(hour - hourOfDay(), 0.1) * 3600;
         while (driver_.loop.now() < end && !testing::Test::HasFailure()) {
             if (chance(150)) {
@@ -76,8 +76,8 @@ private:
             if (chance(50)) {
                 driver_.model().endBreak(); // where its time is up
             }
-            driver_.desktop.sinceAnyInput = chance(3) ? between(0, 1) : between(0, 40);
-            driver_.desktop.sinceKeyDown = *driver_.desktop.sinceAnyInput + (chance(2) ? 0 : 30);
+            driver_.desktop.idleSeconds = chance(3) ? between(0, 1) : between(0, 40);
+            driver_.desktop.secondsSinceKeyDown = *driver_.desktop.idleSeconds + (chance(2) ? 0 : 30);
             beat();
         }
         endSpell();
@@ -86,12 +86,12 @@ private:
     void sleepUntilMorning() {
         if (chance(2)) {
             driver_.desktop.setSession({.screenLocked = true, .displaysAsleep = true});
-            driver_.desktop.sinceAnyInput = 300;
+            driver_.desktop.idleSeconds = 300;
             pass(between(100, 900));
         }
         const double hour = hourOfDay();
         driver_.loop.suspend(std::max((hour > 12 ? 24 : 0) + between(7.5, 9.5) - hour, 0.2) * 3600);
-        driver_.desktop.lockScreen(false);
+        driver_.lockScreen(false);
         beat();
     }
 
@@ -102,7 +102,7 @@ private:
     }
 
     /// A spell of something that shows in the machine's answers.
-    void beginSpell(double seconds, const std::function<void(FakeDesktop&)>& begin) {
+    void beginSpell(double seconds, const std::function<void(Desktop&)>& begin) {
         endSpell();
         begin(driver_.desktop);
         spellEnds_ = driver_.loop.now() + seconds;
@@ -126,10 +126,10 @@ private:
             },
             [&] { beginSpell(between(60, 1800), [](auto& desktop) { desktop.screenWatched = true; }); },
             [&] {
-                driver_.desktop.lockScreen();
-                driver_.desktop.sinceAnyInput = 60;
+                driver_.lockScreen();
+                driver_.desktop.idleSeconds = 60;
                 pass(between(20, 3000));
-                driver_.desktop.lockScreen(false);
+                driver_.lockScreen(false);
                 pass(chance(2) ? 2 : 0);
             },
             [&] { driver_.loop.suspend(between(10, 5400)); },
@@ -195,7 +195,7 @@ private:
         EXPECT_EQ(driver_.overlay.isUp, state.breakScreen.value().has_value());
         EXPECT_TRUE(works || (!driver_.headsUp.isUp && !driver_.countdown.isUp));
         EXPECT_TRUE(!driver_.overlay.isUp || !driver_.headsUp.isUp);
-        EXPECT_TRUE(!driver_.desktop.keepsAwake || driver_.overlay.isUp);
+        EXPECT_TRUE(!driver_.desktop.assertionHeld || driver_.overlay.isUp);
     }
 
     /// The break screen stands for its break, or for a moment, or until the person is back.
@@ -208,7 +208,7 @@ private:
         }
         EXPECT_TRUE(screen || !isOnBreak);
         const bool isPresent =
-            !driver_.desktop.session.screenLocked && driver_.desktop.sinceAnyInput.value_or(0) < 1.5;
+            !driver_.desktop.session.screenLocked && driver_.desktop.idleSeconds.value_or(0) < 1.5;
         goodbye_ = !screen || isOnBreak ? 0 : goodbye_ + (isPresent ? 1 : 0);
         EXPECT_LT(goodbye_, longestGoodbye);
     }
@@ -266,7 +266,7 @@ private:
     /// What was on the screen went with the program.
     void closeSurfaces() {
         driver_.headsUp.isUp = driver_.countdown.isUp = driver_.overlay.isUp = false;
-        driver_.statusItem.popoverShown = driver_.desktop.keepsAwake = false;
+        driver_.statusItem.popoverShown = driver_.desktop.assertionHeld = false;
     }
 
     /// Every record stands in the history, once but for what a crash made the engine forget, and the pets of

@@ -4,13 +4,13 @@ namespace quietlark::test {
 
 TEST(Tick, looksAtTheMachineAtOnceAndThenEveryThirdTime) {
     ModelDriver driver;
-    driver.model();
-    std::vector<int> reads{driver.desktop.microphoneReads};
-    for (int second = 0; second < 4; ++second) {
-        driver.run(1);
-        reads.push_back(driver.desktop.microphoneReads);
+    std::string seen;
+    for (const char* name : {"a", "b", "c", "d", "e"}) {
+        driver.desktop.frontmost = AppRef{.name = name};
+        driver.run(seen.empty() ? 0 : 1);
+        seen += *driver.state().detectorStatus.value().frontmostName;
     }
-    EXPECT_EQ(reads, (std::vector{1, 1, 1, 2, 2}));
+    EXPECT_EQ(seen, "aaadd");
 }
 
 TEST(Tick, inWhichNothingVisibleChangesTellsNobody) {
@@ -33,8 +33,8 @@ TEST(Tick, aClickIsNoDrag) {
     ModelDriver driver;
     driver.model();
     for (const auto& [held, dragging] : {std::pair{0.3, false}, std::pair{0.4, true}}) {
-        driver.desktop.rightHeld = true;
-        driver.desktop.sinceRightDown = held;
+        driver.desktop.rightButtonHeld = true;
+        driver.desktop.secondsSinceRightMouseDown = held;
         driver.run(1);
         EXPECT_EQ(driver.state().dragging.value(), dragging) << held;
         EXPECT_EQ(driver.state().typingNow.value(), dragging) << held;
@@ -43,7 +43,7 @@ TEST(Tick, aClickIsNoDrag) {
 
 TEST(Tick, whereTheDesktopTellsNoIdleTimeThePersonIsPresent) {
     ModelDriver driver;
-    driver.desktop.sinceAnyInput.reset();
+    driver.desktop.idleSeconds.reset();
     driver.run(600);
     EXPECT_EQ(driver.status(), "Quick break in 10:00");
 }
@@ -136,7 +136,7 @@ TEST(Sounds, forFunHaveTheirOwnSwitch) {
 
 TEST(Headless, theModelRunsAWorkdayWithNothingAroundIt) {
     ModelDriver driver;
-    Platform platform = fakePlatform(driver.desktop);
+    Platform platform = driver.platform();
     AppModel model(driver.folder.path(), {.mainLoop = driver.loop, .platform = platform});
     model.start(AppModel::Running::ticking);
     driver.loop.advance(4 * 3600.0);

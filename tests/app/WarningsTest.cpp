@@ -1,5 +1,7 @@
 #include "tests/app/ModelDriver.h"
 
+#include <thread>
+
 namespace quietlark::test {
 
 namespace {
@@ -47,7 +49,7 @@ TEST(Warnings, aLongBreakCanWaitForAPauseOnceAndSaysSo) {
 TEST(Warnings, whoeverLeavesNeedsNoWarning) {
     ModelDriver driver(warnAlways);
     driver.run(toHeadsUp);
-    driver.desktop.lockScreen();
+    driver.lockScreen();
     EXPECT_EQ(driver.run(1), Told{"heads-up leaves"});
 }
 
@@ -121,21 +123,21 @@ TEST(Warnings, typingHoldsTheCountdownAndIsNoticedBetweenTicks) {
     driver.told();
     driver.model().noticeTyping();
     EXPECT_FALSE(driver.state().typingNow.value());
-    driver.desktop.sinceKeyDown = 0.1;
+    driver.desktop.secondsSinceKeyDown = 0.1;
     driver.model().noticeTyping();
     EXPECT_TRUE(driver.state().typingNow.value());
     EXPECT_EQ(driver.run(30), Told{}) << "the countdown stays";
     EXPECT_EQ(driver.status(), "Break waits for you to finish typing · up to 0:33");
     EXPECT_EQ(mood(driver.state()), wumble::WumbleMood::waiting);
 
-    driver.desktop.leftHeld = true;
-    driver.desktop.sinceLeftDown = 2;
+    driver.desktop.leftButtonHeld = true;
+    driver.desktop.secondsSinceLeftMouseDown = 2;
     driver.run(1);
     EXPECT_EQ(typingHoldVerb(driver.state()), "dragging");
     EXPECT_EQ(mood(driver.state()), wumble::WumbleMood::pulled);
 
-    driver.desktop.leftHeld = false;
-    driver.desktop.sinceKeyDown.reset();
+    driver.desktop.leftButtonHeld = false;
+    driver.desktop.secondsSinceKeyDown.reset();
     driver.run(1);
     EXPECT_FALSE(driver.state().typingNow.value());
     EXPECT_TRUE(driver.countdown.isUp);
@@ -146,7 +148,7 @@ TEST(Warnings, typingHoldsTheCountdownAndIsNoticedBetweenTicks) {
 TEST(Warnings, dictationIsNoticedBetweenPolls) {
     ModelDriver driver([](auto& settings) { settings.dictationApps = {"org.speech"}; });
     driver.run(1197.5);
-    driver.desktop.recording = std::vector{AppRef{.pid = 4, .name = "Speech", .bundleID = "org.speech"}};
+    driver.desktop.recordingApps = std::vector{AppRef{.pid = 4, .name = "Speech", .bundleID = "org.speech"}};
     driver.model().noticeDictation();
     EXPECT_TRUE(driver.state().detectorStatus.value().dictating);
     EXPECT_TRUE(driver.state().typingNow.value());
@@ -158,17 +160,9 @@ TEST(Warnings, dictationIsNoticedBetweenPolls) {
 
 TEST(Warnings, theNotesLookAnewWhenTheWatchersChange) {
     ModelDriver driver;
-    class OneLine final : public CaptureLogRunner {
-    public:
-        bool launch(Received, Ended) override { return true; }
-        std::optional<std::string> lookBack() override {
-            return R"({"eventMessage":"Active activity attributions changed to [\"scr:com.example.recorder\"]"})"
-                   "\n";
-        }
-        void terminate() override {}
-    };
-    Platform platform = fakePlatform(driver.desktop);
-    platform.captureLogRunner = std::make_unique<OneLine>();
+    driver.desktop.captureLines =
+        R"({"eventMessage":"Active activity attributions changed to [\"scr:com.example.recorder\"]"})";
+    Platform platform = platformOf(driver.desktop);
     auto services = driver.services();
     AppModel model(driver.folder.path(), {.mainLoop = driver.loop,
                                           .platform = platform,
@@ -176,9 +170,8 @@ TEST(Warnings, theNotesLookAnewWhenTheWatchersChange) {
                                           .random = services.random});
     model.install({.headsUp = &driver.headsUp, .toasts = &driver.toasts});
     model.start(AppModel::Running::ticking);
-    while (!model.captureLog().latest()) {
-    }
-    while (driver.headsUp.sharingUpdates == 0) {
+    while (driver.headsUp.sharingUpdates == 0) { // it comes from the log's thread
+        std::this_thread::yield();
         driver.loop.runPosted();
     }
     EXPECT_EQ(driver.toasts.sharingUpdates, 1);
