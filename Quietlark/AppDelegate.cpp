@@ -16,6 +16,11 @@ namespace {
 
 constexpr double demoBreakSeconds = 12;
 
+/// A break that is due at the start must not begin in the middle of a call that nobody has told of yet. Most
+/// desktops answer within some hundredths of a second; one that doesn't is not waited for.
+constexpr double longestWaitForAnswers = 1;
+constexpr double answerCheckInterval = 0.01;
+
 /// One spelling for one folder, so that two copies agree on which it is.
 std::filesystem::path standardized(const std::filesystem::path& folder) {
     std::error_code failed;
@@ -43,9 +48,22 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                       .loginItem = platform_.loginItem.get(),
                       .calendar = wumble::Calendar()}),
       termination_([] { QCoreApplication::quit(); }) {
-    model_.start(AppModel::Running::ticking);
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });
+    beginWhenTheDesktopHasAnswered(options, loop_.uptime() + longestWaitForAnswers);
+}
+
+void AppDelegate::beginWhenTheDesktopHasAnswered(const command::RunApplication& options, double deadline) {
+    platform_.refresh(loop_.uptime());
+    if (platform_.ready() || loop_.uptime() >= deadline) {
+        begin(options);
+        return;
+    }
+    loop_.after(answerCheckInterval, [=, this] { beginWhenTheDesktopHasAnswered(options, deadline); });
+}
+
+void AppDelegate::begin(const command::RunApplication& options) {
+    model_.start(AppModel::Running::ticking);
     carryOut(options);
     if (model_.state().life.value().welcomed.value_or(true)) {
         model_.greetToday();

@@ -22,6 +22,8 @@ public:
     AppDelegate& operator=(const AppDelegate&) = delete;
 
 private:
+    void beginWhenTheDesktopHasAnswered(const command::RunApplication& options, double deadline);
+    void begin(const command::RunApplication& options);
     void carryOut(const command::RunApplication& options);
 
     QtMainLoop loop_;

@@ -35,6 +35,7 @@ struct Foundation {
 Platform makeLinuxPlatform(MainLoop& loop) {
     const auto foundation = std::make_shared<Foundation>();
     Foundation& base = *foundation;
+    base.entries.readIfChanged();
     Platform platform;
     platform.foundation = foundation;
 

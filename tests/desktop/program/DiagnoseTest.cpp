@@ -1,9 +1,6 @@
-#include "tests/desktop/program/ProgramHome.h"
-#include "tests/lab/SoundLab.h"
+#include "tests/desktop/program/ProgramDesktop.h"
 #include "tests/lab/Spin.h"
-#include "tests/lab/XServer.h"
 
-#include <gtest/gtest.h>
 #include <sstream>
 
 namespace quietlark::lab {
@@ -11,30 +8,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A plain desktop on which things are switched on and off, and the report of the real program about it.
-class DiagnoseTest : public testing::Test {
+/// Things are switched on and off, and the real program reports.
+class DiagnoseTest : public ProgramDesktop {
 protected:
-    void SetUp() override {
-        for (const char* program :
-             {"Xvfb", "openbox", "xdotool", "xterm", "pipewire", "parecord", "gst-launch-1.0"}) {
-            LAB_NEEDS(program);
-        }
-        ASSERT_TRUE(sound.start());
-        server = std::make_unique<XServer>();
-        manager = start({"openbox", "--startup", "echo started"});
-        manager->readLine();
-        Environment session = sound.environment();
-        session["DISPLAY"] = server->display();
-        session["PULSE_SERVER"] = "";
-        home = std::make_unique<ProgramHome>(session);
-    }
-
-    std::unique_ptr<LabProcess> start(const std::vector<std::string>& command) const {
-        Environment session = sound.environment();
-        session["DISPLAY"] = server->display();
-        return std::make_unique<LabProcess>(command, session);
-    }
-
     /// What the report says behind this label.
     std::string report(const std::string& label) const {
         std::istringstream lines(home->start({"--diagnose"})->readAll());
@@ -53,11 +29,6 @@ protected:
         EXPECT_EQ(last, value) << label;
         return isTold;
     }
-
-    SoundLab sound;
-    std::unique_ptr<XServer> server;
-    std::unique_ptr<LabProcess> manager;
-    std::unique_ptr<ProgramHome> home;
 };
 
 TEST_F(DiagnoseTest, tellsNothingOfAQuietDesktopAndTheTruthOfWhatIsSwitchedOnAndOff) {

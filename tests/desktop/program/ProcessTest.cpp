@@ -12,25 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A day in which a break of a second comes every two seconds, and nobody is away.
-void shortenTheDay(const ProgramHome& home) {
-    const wumble::Storage storage(home.data());
-    wumble::WumbleSettings settings;
-    settings.workInterval = 2;
-    settings.shortBreakDuration = 1;
-    settings.longBreaksEnabled = false;
-    settings.countdownDuration = 0;
-    settings.nudgesBetween = 0;
-    storage.save(settings);
-    wumble::WumbleLife life;
-    life.welcomed = true;
-    storage.save(life);
-}
-
-std::vector<wumble::BreakRecord> historyOf(const ProgramHome& home) {
-    return wumble::Storage(home.data()).loadHistory();
-}
-
 bool hasStarted(const ProgramHome& home) { return fs::exists(home.data() / "wumble.json"); }
 
 /// Whether it has come so far that a signal to end no longer ends it at once.
@@ -89,16 +70,16 @@ TEST(Process, runsWithoutAnyServiceAndInAFolderThatCannotBeWritten) {
 
 TEST(Process, comesBackRightHoweverOftenItIsKilled) {
     const ProgramHome home;
-    shortenTheDay(home);
+    home.remember(shortDay());
     constexpr std::size_t enough = 4;
     unsigned round = 0;
-    while (historyOf(home).size() < enough) {
+    while (home.history().size() < enough) {
         ASSERT_LT(++round, 60U) << "breaks no longer come";
-        const std::size_t before = historyOf(home).size();
+        const std::size_t before = home.history().size();
         const auto program = home.start();
         // Killed after a break was written, or at some other moment of the round.
         if (round % 2 == 0) {
-            spinUntil([&] { return historyOf(home).size() > before; }, 6);
+            spinUntil([&] { return home.history().size() > before; }, 6);
         } else {
             program->wait(0.1 * static_cast<double>(round % 23));
         }
@@ -106,7 +87,7 @@ TEST(Process, comesBackRightHoweverOftenItIsKilled) {
         ASSERT_EQ(program->wait(), 128 + SIGKILL) << home.errors();
     }
     std::set<std::string> identifiers;
-    for (const auto& record : historyOf(home)) {
+    for (const auto& record : home.history()) {
         EXPECT_TRUE(identifiers.insert(record.id.text()).second) << "a break stands there twice";
         EXPECT_EQ(record.outcome, wumble::BreakOutcome::completed);
     }

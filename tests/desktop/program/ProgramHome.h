@@ -12,6 +12,17 @@
 
 namespace quietlark::lab {
 
+/// A day in which a break of a second comes every two seconds, and nothing else.
+inline wumble::WumbleSettings shortDay() {
+    wumble::WumbleSettings settings;
+    settings.workInterval = 2;
+    settings.shortBreakDuration = 1;
+    settings.longBreaksEnabled = false;
+    settings.countdownDuration = 0;
+    settings.nudgesBetween = 0;
+    return settings;
+}
+
 /// A person's home with nothing in it but what the program puts there. By default there is no window system, no bus and
 /// no sound server; `also` adds them.
 class ProgramHome {
@@ -49,6 +60,17 @@ public:
         }
         return std::make_unique<LabProcess>(command, all, folder_.path().string());
     }
+
+    /// Leaves settings there, of a person who was welcomed before.
+    void remember(const wumble::WumbleSettings& settings) const {
+        const wumble::Storage storage(data());
+        storage.save(settings);
+        wumble::WumbleLife life;
+        life.welcomed = true;
+        storage.save(life);
+    }
+
+    std::vector<wumble::BreakRecord> history() const { return wumble::Storage(data()).loadHistory(); }
 
     /// What it wrote to its standard error, of all its runs.
     std::string errors() const { return wumble::test::bytesOf(folder_ / "quietlark.log"); }

@@ -21,7 +21,7 @@ struct DesktopEntry {
     bool operator==(const DesktopEntry&) const = default;
 };
 
-/// The entries of the programs installed here. Read when first asked, and again when something was installed.
+/// The entries of the programs installed here.
 class DesktopEntries {
 public:
     /// `folders`: where "applications" folders lie, the person's own first.
@@ -29,6 +29,10 @@ public:
 
     /// The folders of this session, by its environment.
     static std::vector<std::filesystem::path> sessionFolders();
+
+    /// Reads the folders when something was installed or taken away since. Every question does so first; the first time
+    /// takes some milliseconds.
+    void readIfChanged();
 
     /// Each gives nothing for an empty text. Identifiers and classes in any case; the pointer holds until the next
     /// call.
@@ -39,7 +43,6 @@ public:
     const DesktopEntry* withExecutable(std::string_view path);
 
 private:
-    void readIfChanged();
     void readFolder(const std::filesystem::path& folder);
     void add(DesktopEntry entry);
 
