@@ -1,0 +1,72 @@
+#pragma once
+
+#include "Quietlark/Pet/Art/Art.h"
+#include "WumbleCore/Life/WumbleBase.h"
+
+/// The lumps of dough: wide, low, heavy at the floor, sagging a little over their own edge, with a top that is
+/// never an arc.
+namespace quietlark::SoftWumble {
+
+inline constexpr Art vanillaShape{
+    "M51 158C59 111 90 87 132 87C175 83 207 112 218 155C223 173 236 195 230 211C224 228 178 226 136 226"
+    "C94 227 48 229 41 212C34 195 47 177 51 158Z"};
+
+inline constexpr Art taroShape{
+    "M47 166C49 122 78 85 118 83C164 80 201 106 214 148C220 170 238 190 233 209C228 228 182 226 138 226"
+    "C96 226 50 230 40 213C33 199 46 184 47 166Z"};
+
+inline constexpr Art matchaShape{
+    "M46 152C52 112 82 92 124 90C172 86 214 108 222 154C226 176 238 196 231 212C224 228 176 225 134 226"
+    "C92 226 46 228 40 212C33 194 43 172 46 152Z"};
+
+inline constexpr Art strawberryShape{
+    "M54 162C58 120 92 84 132 81C172 80 203 113 213 156C219 178 234 196 229 211C223 228 174 226 135 226"
+    "C96 226 49 228 42 211C36 196 51 182 54 162Z"};
+
+inline constexpr Art hojichaShape{
+    "M48 160C55 124 80 102 108 94C120 91 127 80 142 82C154 84 158 93 172 98C201 108 213 132 219 160"
+    "C224 180 237 196 231 211C224 228 178 226 136 226C92 227 46 229 40 212C34 196 45 180 48 160Z"};
+
+inline constexpr Art kinakoShape{
+    "M42 168C47 128 80 98 126 95C172 91 211 118 223 160C229 180 240 196 234 212C227 229 180 226 136 226"
+    "C90 227 43 230 36 213C30 198 41 186 42 168Z"};
+
+inline constexpr Art azukiShape{
+    "M46 160C51 118 76 88 108 88C122 88 129 93 140 91C152 87 166 85 180 94C208 110 217 134 222 160"
+    "C226 180 237 196 231 212C224 228 178 226 136 226C92 227 46 229 39 212C33 196 44 180 46 160Z"};
+
+inline constexpr Art peachShape{
+    "M45 164C47 124 72 88 109 87C123 87 131 92 138 99C144 90 153 85 166 88C202 97 220 128 223 164"
+    "C225 182 236 196 230 212C223 228 178 226 136 226C92 227 46 229 40 212C34 198 44 182 45 164Z"};
+
+/// A chestnut's point, blunt and a little to one side.
+inline constexpr Art kuriShape{
+    "M45 168C51 134 82 110 112 96C123 91 130 81 139 81C147 82 151 91 162 97C192 113 216 138 222 168"
+    "C226 184 237 198 231 212C224 228 178 226 136 226C92 227 46 229 39 212C34 199 43 184 45 168Z"};
+
+/// Pressed in at the waist like a rice ball.
+inline constexpr Art isobeShape{
+    "M52 160C60 130 82 92 116 85C132 82 150 83 163 91C192 108 206 134 214 158C221 178 238 196 232 211"
+    "C225 228 178 226 136 226C92 227 46 229 39 212C33 196 47 180 52 160Z"};
+
+/// A sweet potato leans where it was dug from.
+inline constexpr Art imoShape{
+    "M44 170C44 132 62 102 98 90C136 78 182 88 208 122C224 144 222 166 228 186C234 202 236 214 224 221"
+    "C206 229 170 226 134 226C92 227 48 229 40 213C34 200 44 186 44 170Z"};
+
+/// Almost round, as fruit is.
+inline constexpr Art yuzuShape{
+    "M46 162C46 116 84 86 130 87C136 87 138 82 144 83C150 84 150 89 156 90C196 96 222 124 223 162"
+    "C225 182 236 198 230 212C223 228 178 226 136 226C92 227 46 229 40 212C34 197 45 182 46 162Z"};
+
+/// Full at the shoulders.
+inline constexpr Art mangoShape{
+    "M49 156C50 112 92 80 140 83C186 84 218 112 221 150C223 174 236 194 230 211C223 228 178 226 136 226"
+    "C92 227 48 229 41 212C35 196 49 178 49 156Z"};
+
+const QPainterPath& shape(wumble::WumbleBase base);
+
+/// Where the outline of the straight body is highest at that x, in the box.
+double crest(wumble::WumbleBase base, double x);
+
+} // namespace quietlark::SoftWumble

@@ -1,0 +1,88 @@
+#include "Quietlark/Pet/SoftWumble.h"
+
+#include "Quietlark/Pet/Ease.h"
+#include "Quietlark/Pet/Stage.h"
+
+namespace quietlark::SoftWumble {
+
+namespace {
+
+constexpr double rimWidth = 13;      ///< of the white stroke: half of it shows
+constexpr double keylineWidth = 2.6; ///< beyond the rim
+constexpr double thinnestLine = 0.8; ///< of the keyline, in pixels
+
+QTransform boxIn(const QRectF& place) {
+    const double scale = std::min(place.width(), place.height()) / box;
+    QTransform transform;
+    transform.translate(place.center().x(), place.center().y());
+    transform.scale(scale, scale);
+    transform.translate(-box / 2, -box / 2);
+    return transform;
+}
+
+double pixelsPerUnit(const QPainter& painter) {
+    return std::sqrt(std::abs(painter.deviceTransform().determinant()));
+}
+
+void drawGroundShadow(QPainter& painter, const Stage& stage) {
+    const double lifted = clamped(-stage.motion.offset.y / 120);
+    const double width = 146 * (1 - 0.12 * stage.pose.tall) * (1 - lifted) * stage.motion.across;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgbF(0.788F, 0.725F, 0.635F, 0.2F));
+    painter.drawEllipse(QPointF(134 + stage.motion.offset.x, 233), width / 2, 8 * (1 - lifted));
+}
+
+void drawOutlines(QPainter& painter, const Stage& stage, const QPainterPath& everything) {
+    const double keyline = std::max(keylineWidth, thinnestLine / pixelsPerUnit(painter));
+    const auto stroke = [&](const QColor& colour, double width) {
+        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setBrush(colour);
+        painter.drawPath(everything);
+    };
+    stroke(stage.tweaks.stickerInk.value_or(stage.colours.ink), rimWidth + 2 * keyline);
+    stroke(stage.tweaks.stickerWhite.value_or(Qt::white), rimWidth);
+}
+
+/// The same body, a little up and to the left: what it leaves uncovered is in the shade.
+QPainterPath shadeOf(const QPainterPath& body) {
+    QPainterPath path = body.translated(-5, -11);
+    path.addPath(body);
+    path.setFillRule(Qt::OddEvenFill);
+    return path;
+}
+
+void drawBody(QPainter& painter, const Stage& stage) {
+    const PainterScope scope(painter);
+    painter.setTransform(stage.body, true);
+    painter.fillPath(stage.bent, stage.colours.body);
+    painter.setClipPath(stage.bent, Qt::IntersectClip);
+    painter.fillPath(shadeOf(stage.bent), stage.colours.shade);
+    drawTexture(painter, stage);
+}
+
+} // namespace
+
+void draw(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day, const WumblePose& pose,
+          Sticker sticker, const Tweaks& tweaks) {
+    const PainterScope scope(painter);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setTransform(boxIn(place), true);
+    const Stage stage(day, pose, tweaks);
+    if (tweaks.parts != Parts::face) {
+        if (tweaks.groundShadow) {
+            drawGroundShadow(painter, stage);
+        }
+        if (sticker == Sticker::dieCut) {
+            drawOutlines(painter, stage, stage.body.map(stage.bent));
+        }
+        drawBody(painter, stage);
+    }
+    if (tweaks.parts == Parts::all || tweaks.cheeksWithBody) {
+        drawCheeks(painter, stage);
+    }
+    if (tweaks.parts != Parts::body) {
+        drawFace(painter, stage);
+    }
+}
+
+} // namespace quietlark::SoftWumble
