@@ -233,6 +233,8 @@ private:
     QPen pen_;
 };
 
+} // namespace
+
 /// The face lies a little in front of the body: a turn moves it further than the dough.
 QTransform faceSeat(const Stage& stage) {
     const QPointF moved = faceOrigin + stage.soft.shift(faceOrigin);
@@ -244,8 +246,6 @@ QTransform faceSeat(const Stage& stage) {
     place.translate(-faceOrigin.x(), -faceOrigin.y());
     return place;
 }
-
-} // namespace
 
 void drawFace(QPainter& painter, const Stage& stage) {
     const PainterScope scope(painter);

@@ -57,6 +57,8 @@ QColor Palette::of(Tint tint) const {
     return QColor::fromRgb(tint.rgb);
 }
 
+QColor Palette::edge() const { return shade.darker(118); }
+
 QColor Palette::cheek(bool freckled) const {
     constexpr QRgb rose = 0xF2787F;
     constexpr QRgb nut = 0xA5623F;

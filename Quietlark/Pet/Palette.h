@@ -18,6 +18,9 @@ struct Palette {
 
     QColor of(Tint tint) const;
 
+    /// The line where two shapes of the body's colour meet.
+    QColor edge() const;
+
     /// Of a blush, or of freckles.
     QColor cheek(bool freckled) const;
 };

@@ -1,7 +1,9 @@
 #include "Quietlark/Pet/SoftWumble.h"
 
+#include "Quietlark/Pet/Art/FaceArt.h"
+#include "Quietlark/Pet/Art/LightArt.h"
 #include "Quietlark/Pet/Ease.h"
-#include "Quietlark/Pet/Stage.h"
+#include "Quietlark/Pet/Things.h"
 
 namespace quietlark::SoftWumble {
 
@@ -51,6 +53,22 @@ QPainterPath shadeOf(const QPainterPath& body) {
     return path;
 }
 
+/// Marks that run over the edge take the shade of the body with them.
+constexpr QColor evenShade{110, 60, 30, 30};
+
+void drawHighlights(QPainter& painter, const Stage& stage) {
+    struct Light {
+        Art art;
+        double opacity;
+    };
+    constexpr std::array lights{Light{broadLight, 0.22}, Light{smallLight, 0.5}, Light{speckOfLight, 0.5}};
+    const PainterScope scope(painter);
+    for (const auto& [art, opacity] : lights) {
+        painter.setOpacity(opacity);
+        painter.fillPath(stage.soft.bendy(art.path()), stage.colours.light);
+    }
+}
+
 void drawBody(QPainter& painter, const Stage& stage) {
     const PainterScope scope(painter);
     painter.setTransform(stage.body, true);
@@ -58,6 +76,50 @@ void drawBody(QPainter& painter, const Stage& stage) {
     painter.setClipPath(stage.bent, Qt::IntersectClip);
     painter.fillPath(shadeOf(stage.bent), stage.colours.shade);
     drawTexture(painter, stage);
+    painter.fillPath(shadeOf(stage.bent), evenShade);
+    drawHighlights(painter, stage);
+}
+
+/// What the pet has on it at the moment.
+struct Belongings {
+    explicit Belongings(const Stage& stage)
+        : accessory(worn(stage)), keepsake(held(stage)), talking(talkingWith(stage)), typing(typingOn(stage)) {}
+
+    std::optional<Placed> accessory;
+    std::optional<Placed> keepsake;
+    std::optional<Placed> talking;
+    std::optional<Placed> typing;
+};
+
+/// All that the rim goes around.
+QPainterPath everything(const Stage& stage, const Belongings& things) {
+    QPainterPath path = stage.outline;
+    path.setFillRule(Qt::WindingFill);
+    if (stage.tweaks.parts != Parts::all) {
+        return path;
+    }
+    for (const auto* thing : {&things.accessory, &things.keepsake, &things.talking, &things.typing}) {
+        if (*thing) {
+            path.addPath(outline(**thing));
+        }
+    }
+    for (const QTransform& seat : pawSeats(stage)) {
+        path.addPath(seat.map(bean.path()));
+    }
+    return path;
+}
+
+void drawBelongings(QPainter& painter, const Stage& stage, const Belongings& things) {
+    for (const auto* thing : {&things.talking, &things.accessory, &things.keepsake, &things.typing}) {
+        if (*thing) {
+            drawContact(painter, stage, **thing);
+            drawLayers(painter, stage, **thing);
+        }
+    }
+    drawPaws(painter, stage);
+    if (stage.pose.pointer) {
+        drawPointer(painter, stage);
+    }
 }
 
 } // namespace
@@ -68,12 +130,13 @@ void draw(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day, 
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setTransform(boxIn(place), true);
     const Stage stage(day, pose, tweaks);
+    const Belongings things(stage);
     if (tweaks.parts != Parts::face) {
         if (tweaks.groundShadow) {
             drawGroundShadow(painter, stage);
         }
         if (sticker == Sticker::dieCut) {
-            drawOutlines(painter, stage, stage.body.map(stage.bent));
+            drawOutlines(painter, stage, everything(stage, things));
         }
         drawBody(painter, stage);
     }
@@ -82,6 +145,10 @@ void draw(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day, 
     }
     if (tweaks.parts != Parts::body) {
         drawFace(painter, stage);
+    }
+    if (tweaks.parts == Parts::all) {
+        drawBelongings(painter, stage, things);
+        drawEffects(painter, stage);
     }
 }
 

@@ -56,6 +56,7 @@ Stage::Stage(const wumble::WumbleDay& petDay, const WumblePose& petPose, const T
     body.scale(across, up);
     body.translate(-Soft::axis, -Soft::floor);
     bent = soft.bendy(shape(day.base));
+    outline = body.map(bent);
 }
 
 QTransform Stage::seat(QPointF at, double tilt, double size) const {
@@ -68,40 +69,14 @@ QTransform Stage::seat(QPointF at, double tilt, double size) const {
     return place;
 }
 
-void drawLayers(QPainter& painter, const Stage& stage, const Placed& thing) {
-    const PainterScope scope(painter);
-    painter.setTransform(thing.seat, true);
-    for (const Layer& layer : thing.layers) {
-        const QColor colour = stage.colours.of(layer.tint);
-        painter.setOpacity(layer.opacity);
-        if (layer.line > 0) {
-            painter.strokePath(layer.art.path(),
-                               QPen(colour, layer.line, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        } else {
-            painter.fillPath(layer.art.path(), colour);
-        }
+void drawLayer(QPainter& painter, const Stage& stage, const Layer& layer, const QPainterPath& path) {
+    const QColor colour = stage.colours.of(layer.tint);
+    painter.setOpacity(layer.opacity);
+    if (layer.line > 0) {
+        painter.strokePath(path, QPen(colour, layer.line, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    } else {
+        painter.fillPath(path, colour);
     }
-}
-
-QPainterPath outline(const Placed& thing) {
-    QPainterPath path;
-    path.setFillRule(Qt::WindingFill);
-    for (const Layer& layer : thing.layers) {
-        if (layer.silhouette) {
-            path.addPath(thing.seat.map(layer.art.path()));
-        }
-    }
-    return path;
-}
-
-void drawContact(QPainter& painter, const Stage& stage, const Placed& thing) {
-    constexpr double spread = 6;
-    constexpr double fall = 2.5;
-    const PainterScope scope(painter);
-    painter.setClipPath(stage.body.map(stage.bent), Qt::IntersectClip);
-    painter.setPen(QPen(stage.colours.shade, spread, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(stage.colours.shade);
-    painter.drawPath(outline(thing).translated(0, fall));
 }
 
 } // namespace quietlark::SoftWumble

@@ -29,8 +29,9 @@ struct Stage {
     Soft soft;
     double across; ///< scales of the body
     double up;
-    QTransform body; ///< from the straight body's place to the box
-    QPainterPath bent;
+    QTransform body;      ///< from the straight body's place to the box
+    QPainterPath bent;    ///< the body before it is put into its place
+    QPainterPath outline; ///< and there
 
     bool shows(wumble::RevealStep step) const { return revealed >= static_cast<int>(step); }
 
@@ -50,19 +51,11 @@ private:
     QPainter& painter_;
 };
 
-/// A thing that is put somewhere: its layers, and where they go.
-struct Placed {
-    Layers layers;
-    QTransform seat;
-};
+/// One layer, where its path already lies.
+void drawLayer(QPainter& painter, const Stage& stage, const Layer& layer, const QPainterPath& path);
 
-void drawLayers(QPainter& painter, const Stage& stage, const Placed& thing);
-
-/// One soft shade on the body under a thing that lies on it.
-void drawContact(QPainter& painter, const Stage& stage, const Placed& thing);
-
-/// The outlines that the rim of the sticker goes around.
-QPainterPath outline(const Placed& thing);
+/// Where the face and what belongs to it lie: from their place in the box.
+QTransform faceSeat(const Stage& stage);
 
 void drawTexture(QPainter& painter, const Stage& stage);
 void drawFace(QPainter& painter, const Stage& stage);
