@@ -25,7 +25,7 @@ constexpr std::array beretLayers{edge(beretStem, 0x8E2F35), edge(beretTop, 0xC04
 constexpr std::array beanieLayers{edge(beaniePom, 0xF6EAD4), edge(beanieTop, 0x5A8FB4),
                                   line(beanieRibs, 0x46789B, 3), edge(beanieBrim, 0xF6EAD4),
                                   line(beanieBrimRibs, 0xD9C7A8, 2.6)};
-constexpr std::array glassesLayers{fill(glassesLens, 0xFFFFFF, 0.35), line(glassesFrames, 0x5B4034, 3.6),
+constexpr std::array glassesLayers{fill(glassesLens, 0xFFFFFF, 0.18), line(glassesFrames, 0x5B4034, 3.6),
                                    line(glassesBridge, 0x5B4034, 3.4), line(glassesShine, 0xFFFFFF, 2.6)};
 constexpr std::array scarfLayers{edge(scarfTail, 0xC94848),      fill(scarfStripe, 0xF8E3BE),
                                  line(scarfStripe, 0xF8E3BE, 4), line(scarfFringe, 0xC94848, 3),
@@ -41,8 +41,8 @@ constexpr std::array partyHatLayers{edge(partyHat, 0x8A7BDD), fill(partyHatStrip
 constexpr std::array haloLayers{edge(halo, 0xFBD45E), line(haloShine, 0xFFF3C2, 3)};
 constexpr std::array headphonesLayers{edge(headphoneBand, 0x555B6E), edge(headphoneCups, 0xFF8E69),
                                       line(headphonePads, 0x555B6E, 6), line(headphoneShine, 0xFFC4AD, 3.4)};
-constexpr std::array sleepMaskLayers{line(sleepMaskStrap, 0x55639F, 7), edge(sleepMask, 0x7384C8),
-                                     line(sleepMaskStitches, 0xF3F0FF, 2.8)};
+constexpr std::array sleepMaskLayers{Layer{sleepMaskStrap, 0x55639F, 7, false, 1, true},
+                                     edge(sleepMask, 0x7384C8), line(sleepMaskStitches, 0xF3F0FF, 2.8)};
 constexpr std::array bandageLayers{edge(bandage, 0xF0B98D), fill(bandagePad, 0xFBE3CC),
                                    line(bandageSpot, 0xC98A5D, 2.6)};
 

@@ -198,8 +198,8 @@ private:
     /// What a lid leaves open of the eyes, and the lid's edge.
     void drawLidded(const QPainterPath& eyes, std::initializer_list<double> middles) const {
         constexpr double halfHeight = 7.6;
-        const double edge = mix(-halfHeight, 3, lids());
-        const double bow = mix(-1.5, 3, lids());
+        const double edge = mix(-halfHeight + 3, 2, lids());
+        const double bow = mix(-7, 4, lids());
         QPainterPath open;
         QPainterPath edges;
         for (const double x : middles) {

@@ -42,7 +42,7 @@ constexpr std::array darumaLayers{edge(daruma, 0xDB463F),           fill(darumaS
 constexpr std::array balloonLayers{line(balloonString, 0x5B4A4E, 2.6), edge(balloon, 0xF2637A),
                                    edge(balloonKnot, 0xD2475F), line(balloonShine, 0xFFC2CB, 5)};
 
-constexpr QPointF belly{133, 204};
+constexpr QPointF belly{133, 208};
 
 struct Hold {
     WumbleKeepsake value;
@@ -93,7 +93,7 @@ std::optional<Grip> grip(const Stage& stage) {
     if (!stands(hold)) {
         return Grip{std::nullopt, belly + QPointF(hold.off.x() + hold.grip * 0.4, 6)};
     }
-    return Grip{belly + QPointF(-hold.grip, 6), belly + QPointF(hold.grip, 6)};
+    return Grip{belly + QPointF(-hold.grip, 3), belly + QPointF(hold.grip, 3)};
 }
 
 } // namespace quietlark::SoftWumble

@@ -57,6 +57,11 @@ QColor Palette::of(Tint tint) const {
     return QColor::fromRgb(tint.rgb);
 }
 
+QColor Palette::paw() const {
+    return {(body.red() + light.red()) / 2, (body.green() + light.green()) / 2,
+            (body.blue() + light.blue()) / 2};
+}
+
 QColor Palette::edge() const { return shade.darker(118); }
 
 QColor Palette::cheek(bool freckled) const {

@@ -21,6 +21,9 @@ struct Palette {
     /// The line where two shapes of the body's colour meet.
     QColor edge() const;
 
+    /// Of a paw, which is nearer to the light than the belly.
+    QColor paw() const;
+
     /// Of a blush, or of freckles.
     QColor cheek(bool freckled) const;
 };

@@ -47,7 +47,7 @@ void drawOutlines(QPainter& painter, const Stage& stage, const QPainterPath& eve
 
 /// The same body, a little up and to the left: what it leaves uncovered is in the shade.
 QPainterPath shadeOf(const QPainterPath& body) {
-    QPainterPath path = body.translated(-5, -11);
+    QPainterPath path = body.translated(-7, -10);
     path.addPath(body);
     path.setFillRule(Qt::OddEvenFill);
     return path;
@@ -83,7 +83,8 @@ void drawBody(QPainter& painter, const Stage& stage) {
 /// What the pet has on it at the moment.
 struct Belongings {
     explicit Belongings(const Stage& stage)
-        : accessory(worn(stage)), keepsake(held(stage)), talking(talkingWith(stage)), typing(typingOn(stage)) {}
+        : accessory(worn(stage)), keepsake(held(stage)), talking(talkingWith(stage)),
+          typing(typingOn(stage)) {}
 
     std::optional<Placed> accessory;
     std::optional<Placed> keepsake;

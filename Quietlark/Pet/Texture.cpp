@@ -41,7 +41,7 @@ constexpr std::array pandanMarks{Layer{pandanCrease, 0x6FAA69, 4}};
 constexpr std::array coconutMarks{Layer{coconutShell, 0x94694C}, Layer{coconutFibre, 0x714B34, 2.6},
                                   Layer{coconutFlakes, 0xDDD3C5, 3.4}};
 constexpr std::array mangoMarks{soft(mangoBlush, 0xF78C52, 0.6), Layer{mangoCuts, 0xF2A23A, 3.4}};
-constexpr std::array blueberryMarks{soft(blueberryBloom, light, 0.8), Layer{blueberryCalyx, 0x6B79B8},
+constexpr std::array blueberryMarks{Layer{blueberryBloom, light, 9}, Layer{blueberryCalyx, 0x6B79B8},
                                     Layer{blueberryEye, 0x4D5A96}};
 constexpr std::array cocoaMarks{Layer{cocoaSwirl, 0x7E5442, 6}};
 constexpr std::array thaiTeaMarks{Layer{thaiTeaRibbon, 0xFFF0DC}};

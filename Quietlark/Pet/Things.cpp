@@ -68,6 +68,10 @@ void drawLayers(QPainter& painter, const Stage& stage, const Placed& thing) {
     const PainterScope scope(painter);
     painter.setTransform(thing.seat, true);
     for (const Layer& layer : thing.layers) {
+        const PainterScope wrapping(painter);
+        if (layer.wrapped) {
+            painter.setClipPath(thing.seat.inverted().map(stage.outline), Qt::IntersectClip);
+        }
         drawLayer(painter, stage, layer, layer.art.path());
     }
 }
@@ -97,9 +101,11 @@ void drawPaws(QPainter& painter, const Stage& stage) {
     for (const QTransform& seat : pawSeats(stage)) {
         const PainterScope scope(painter);
         painter.setTransform(seat, true);
-        painter.fillPath(bean.path(), stage.colours.body);
+        painter.fillPath(bean.path(), stage.colours.paw());
         painter.fillPath(beanShade.path(), stage.colours.shade);
-        painter.strokePath(bean.path(), QPen(stage.colours.edge(), 2.6));
+        const QPen line(stage.colours.edge(), 2.6, Qt::SolidLine, Qt::RoundCap);
+        painter.strokePath(bean.path(), line);
+        painter.strokePath(beanToes.path(), line);
     }
     if (!stage.pose.hug || !stage.shows(wumble::RevealStep::arms)) {
         return;

@@ -37,6 +37,7 @@ struct Layer {
     double line = 0;         ///< width of the stroke; 0 fills
     bool silhouette = false; ///< belongs to the outline that the die-cut rim follows
     double opacity = 1;
+    bool wrapped = false; ///< goes around the body: seen only where the body is
 };
 
 using Layers = std::span<const Layer>;

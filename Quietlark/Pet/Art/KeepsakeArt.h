@@ -26,7 +26,7 @@ inline constexpr Art teaDrink{
 
 inline constexpr Art teaBand{"M-21 1C-8 5 8 5 21 1L19 8C8 11-8 11-19 8Z"};
 
-inline constexpr Art teaSteam{"M-7-22C-11-27-3-30-7-36M7-23C3-28 11-31 7-37"};
+inline constexpr Art teaSteam{"M20-24C17-28 23-31 20-36M27-20C24-24 30-27 27-32"};
 
 inline constexpr Art heart{"M0 19C-39-1-20-30 0-12C20-31 39-1 0 19Z"};
 
@@ -49,13 +49,13 @@ inline constexpr Art plantLeafB{"M0-18C4-36 18-44 30-38C30-24 16-14 0-18Z"};
 
 inline constexpr Art plantLeafC{"M0-22C-9-32-7-46 1-52C9-46 9-32 0-22Z"};
 
-inline constexpr Art craneBody{"M-31-2L-8-7L2-34L13-8L33-22L23 9L4 20L-18 13Z"};
+inline constexpr Art craneBody{"M-31 2L-8-5L0-26L13-6L33-18L23 11L4 21L-18 15Z"};
 
-inline constexpr Art craneLight{"M-8-7L2-34L13-8L4 20ZM-31-2L-8-7L-6 5L-18 13Z"};
+inline constexpr Art craneLight{"M-8-5L0-26L13-6L4 21ZM-31 2L-8-5L-6 7L-18 15Z"};
 
-inline constexpr Art craneHead{"M13-8L33-22L23 9ZM33-22L40-17L30-15Z"};
+inline constexpr Art craneHead{"M13-6L33-18L23 11Z"};
 
-inline constexpr Art craneBeak{"M30-23C33-25 35-23 35-21L41-17L31-15Z"};
+inline constexpr Art craneBeak{"M30-19C33-21 35-19 35-17L41-13L31-11Z"};
 
 inline constexpr Art pencilWood{"M-11-34L11-34L11 16L-11 16Z"};
 
