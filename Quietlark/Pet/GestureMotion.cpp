@@ -97,11 +97,15 @@ Motion tapping(double t) {
     return pose;
 }
 
-/// Once round, seen from the side: narrow, then wide again, with a crouch before and a settling after.
+/// Once round its middle, in the air, with a crouch before and a settling after.
 Motion spinning(double t) {
-    Motion pose = squashed(along({{0, 1}, {0.14, 0.86}, {0.4, 1.08}, {0.7, 1.04}, {0.84, 0.92}, {1, 1}}, t));
-    pose.offset.y = along({{0.14, 0}, {0.45, -20}, {0.72, 0}}, t);
-    pose.angle = along({{0.12, 0}, {0.2, -7}, {0.7, 367}, {0.84, 358}, {1, 360}}, t);
+    constexpr double middle = 70; ///< above the floor
+    Motion pose = squashed(
+        along({{0, 1}, {0.14, 0.84}, {0.26, 1.06}, {0.6, 1.02}, {0.74, 0.86}, {0.88, 1.04}, {1, 1}}, t));
+    pose.angle = along({{0.12, 0}, {0.2, -8}, {0.7, 366}, {0.84, 359}, {1, 360}}, t);
+    const double turned = pose.angle / 180 * std::numbers::pi;
+    const double lift = along({{0.14, 0}, {0.42, 34}, {0.72, 0}}, t);
+    pose.offset = {-middle * std::sin(turned), middle * (std::cos(turned) - 1) - lift};
     return pose;
 }
 
@@ -171,7 +175,7 @@ Paws paws(WumbleGesture gesture, double progress) {
     case WumbleGesture::wave: {
         const double raised = along({{0.06, 0}, {0.3, 1.06}, {0.38, 1}, {0.74, 1}, {0.96, 0}}, t);
         const double shake = raised * std::sin(t * 8 * std::numbers::pi);
-        return {{}, {{30 * raised + 5 * shake, -62 * raised}, 22 * raised + 16 * shake}};
+        return {{}, {{47 * raised + 6 * shake, -70 * raised}, 22 * raised + 16 * shake}};
     }
     case WumbleGesture::hop: {
         const double thrown = along({{0.16, 0}, {0.42, 1}, {0.55, 1}, {0.74, 0}}, t);
@@ -179,7 +183,7 @@ Paws paws(WumbleGesture gesture, double progress) {
     }
     case WumbleGesture::stretch: {
         const double raised = along({{0.14, 0}, {0.44, 1}, {0.66, 1}, {0.88, 0}}, t);
-        return both({{26 * raised, -66 * raised}, 20 * raised});
+        return both({{40 * raised, -78 * raised}, 20 * raised});
     }
     case WumbleGesture::peek: {
         const double hidden = along({{0, 0}, {0.22, 1}, {0.36, 1}, {0.56, 0}}, t);

@@ -57,7 +57,7 @@ constexpr std::array<Hold, 11> belongings{{
     {WumbleKeepsake::book, bookLayers, {0, 2}, -3, 1.15, 33},
     {WumbleKeepsake::tea, teaLayers, {0, 3}, 3, 1.15, 27},
     {WumbleKeepsake::heart, heartLayers, {0, 3}, -5, 1.2, 26},
-    {WumbleKeepsake::plant, plantLayers, {44, 0}, 5, 1.05, 20},
+    {WumbleKeepsake::plant, plantLayers, {50, -10}, 5, 1.05, -30},
     {WumbleKeepsake::crane, craneLayers, {0, 4}, -4, 1.1, 30},
     {WumbleKeepsake::pencil, pencilLayers, {46, -6}, 24, 1.05, 14},
     {WumbleKeepsake::lantern, lanternLayers, {50, 2}, 6, 1.1, 4},
@@ -91,7 +91,7 @@ std::optional<Grip> grip(const Stage& stage) {
         return Grip{std::nullopt, belly + QPointF(stringEnd, 2)};
     }
     if (!stands(hold)) {
-        return Grip{std::nullopt, belly + QPointF(hold.off.x() + hold.grip * 0.4, 6)};
+        return Grip{std::nullopt, belly + QPointF(hold.off.x() + hold.grip * 0.4, 3)};
     }
     return Grip{belly + QPointF(-hold.grip, 3), belly + QPointF(hold.grip, 3)};
 }

@@ -13,7 +13,7 @@
 namespace quietlark::SoftWumble {
 
 /// How far a full pull draws the dough out to the side.
-inline constexpr double pulledArm = 72;
+inline constexpr double pulledArm = 36;
 
 /// Everything about one moment that the parts of the drawing share, worked out before anything is painted.
 struct Stage {

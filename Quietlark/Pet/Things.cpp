@@ -110,9 +110,9 @@ void drawPaws(QPainter& painter, const Stage& stage) {
     if (!stage.pose.hug || !stage.shows(wumble::RevealStep::arms)) {
         return;
     }
-    for (const auto& [x, side] : {std::pair(70.0, 1.0), std::pair(198.0, -1.0)}) {
+    for (const auto& [x, side] : {std::pair(84.0, 1.0), std::pair(184.0, -1.0)}) {
         const PainterScope scope(painter);
-        painter.setTransform(stage.seat({x, 187}, side * 12, 1).scale(side, 1), true);
+        painter.setTransform(stage.seat({x, 203}, side * 6, 1.05).scale(side, 1), true);
         painter.fillPath(hugArm.path(), stage.colours.body);
         painter.strokePath(hugArm.path(), QPen(stage.colours.edge(), 2.6));
     }

@@ -30,7 +30,7 @@ struct Moment {
 bool hasPersonality(const wumble::WumbleDay& day) { return day.shows(wumble::personalityShows); }
 
 WumbleExpression ownExpression(const wumble::WumbleDay& day) {
-    return about(day.traits.personality).expression;
+    return wumble::about(day.traits.personality).expression;
 }
 
 WumblePose showing(WumbleExpression expression) { return {.face = face::Expression{expression}}; }
@@ -63,7 +63,7 @@ void showCharacter(WumblePose& pose, const Moment& moment) {
         return;
     }
     pose.face = face::Expression{ownExpression(moment.day)};
-    const auto gesture = about(moment.day.traits.personality).gesture;
+    const auto gesture = wumble::about(moment.day.traits.personality).gesture;
     pose = reacting(pose, moment.day, gesture, t - gestureFrom, false);
 }
 
@@ -85,7 +85,7 @@ WumblePose peek(const Moment& moment) {
         return reacting(pose, moment.day, WumbleGesture::nod, moment.elapsed - Choreography::peekHello,
                         false);
     }
-    const auto greeting = about(moment.day.traits.personality).greeting;
+    const auto greeting = wumble::about(moment.day.traits.personality).greeting;
     return reacting(pose, moment.day, greeting, moment.elapsed - Choreography::peekHello, false);
 }
 
@@ -93,10 +93,8 @@ WumblePose peek(const Moment& moment) {
 WumblePose demonstrate(const Moment& moment) {
     constexpr double rest = 1.6;
     WumblePose pose = idle({moment.day, moment.t, 0, true, moment.jelly});
-    const auto gesture =
-        hasPersonality(moment.day)
-            ? about(moment.day.traits.personality).gesture
-            : WumbleGesture::nod;
+    const auto gesture = hasPersonality(moment.day) ? wumble::about(moment.day.traits.personality).gesture
+                                                    : WumbleGesture::nod;
     return reacting(pose, moment.day, gesture, remainder(moment.elapsed, duration(gesture) + rest) - 0.4,
                     false);
 }
@@ -294,8 +292,6 @@ std::optional<Face> faceOf(WumbleGesture gesture) {
 }
 
 } // namespace
-
-bool moves(WumbleMood, bool reduceMotion) { return !reduceMotion; }
 
 bool canPlay(const wumble::WumbleDay& day, WumbleGesture gesture) {
     return !needsPaws(gesture) || day.shows(wumble::RevealStep::arms);

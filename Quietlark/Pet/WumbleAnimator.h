@@ -8,10 +8,6 @@
 /// What the pet does in each mood, as a pure function of time.
 namespace quietlark::WumbleAnimator {
 
-/// How often a second a pet that hardly moves wants to be drawn is up to the view; this says whether it moves at
-/// all. With reduced motion every mood is one pose.
-bool moves(wumble::WumbleMood mood, bool reduceMotion);
-
 /// `t` is the time in seconds on the pet's own clock, which the breath and the blinks follow; `elapsed` the
 /// seconds since the mood began. `calm` keeps to breath and blinks: no gestures, no looks aside. Reduced motion
 /// is still, but for the face and what floats, which hold.
