@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QColor>
+#include <QPainterPath>
+#include <cstdint>
+#include <span>
+
+namespace quietlark {
+
+/// One drawn shape: a path string in the 270 box, or around its own origin for things that are put somewhere.
+/// Only literals make one, so that its address can stand for its text.
+struct Art {
+    const char* text = "";
+
+    consteval Art(const char* literal) : text(literal) {}
+    constexpr Art() = default;
+
+    /// Parsed at its first use in a thread and kept.
+    const QPainterPath& path() const;
+};
+
+/// A colour of a shape: its own, or one of the pet that wears it.
+struct Tint {
+    enum class Slot { own, body, shade, light, ink };
+
+    Slot slot = Slot::own;
+    std::uint32_t rgb = 0;
+
+    constexpr Tint(std::uint32_t value) : rgb(value) {}
+    constexpr Tint(Slot pet) : slot(pet) {}
+};
+
+/// A thing is drawn as a pile of these, the lowest first.
+struct Layer {
+    Art art;
+    Tint tint;
+    double line = 0;         ///< width of the stroke; 0 fills
+    bool silhouette = false; ///< belongs to the outline that the die-cut rim follows
+    double opacity = 1;
+    bool wrapped = false; ///< goes around the body: seen only where the body is
+};
+
+using Layers = std::span<const Layer>;
+
+} // namespace quietlark

@@ -1,0 +1,156 @@
+#include "Quietlark/Pet/SoftWumble.h"
+
+#include "Quietlark/Pet/Art/FaceArt.h"
+#include "Quietlark/Pet/Art/LightArt.h"
+#include "Quietlark/Pet/Ease.h"
+#include "Quietlark/Pet/Things.h"
+
+namespace quietlark::SoftWumble {
+
+namespace {
+
+constexpr double rimWidth = 13;      ///< of the white stroke: half of it shows
+constexpr double keylineWidth = 2.6; ///< beyond the rim
+constexpr double thinnestLine = 0.8; ///< of the keyline, in pixels
+
+QTransform boxIn(const QRectF& place) {
+    const double scale = std::min(place.width(), place.height()) / box;
+    QTransform transform;
+    transform.translate(place.center().x(), place.center().y());
+    transform.scale(scale, scale);
+    transform.translate(-box / 2, -box / 2);
+    return transform;
+}
+
+double pixelsPerUnit(const QPainter& painter) {
+    return std::sqrt(std::abs(painter.deviceTransform().determinant()));
+}
+
+void drawGroundShadow(QPainter& painter, const Stage& stage) {
+    const double lifted = clamped(-stage.motion.offset.y / 120);
+    const double width = 146 * (1 - 0.12 * stage.pose.tall) * (1 - lifted) * stage.motion.across;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgbF(0.788F, 0.725F, 0.635F, 0.2F));
+    painter.drawEllipse(QPointF(134 + stage.motion.offset.x, 233), width / 2, 8 * (1 - lifted));
+}
+
+void drawOutlines(QPainter& painter, const Stage& stage, const QPainterPath& everything) {
+    const double keyline = std::max(keylineWidth, thinnestLine / pixelsPerUnit(painter));
+    const auto stroke = [&](const QColor& colour, double width) {
+        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setBrush(colour);
+        painter.drawPath(everything);
+    };
+    stroke(stage.tweaks.stickerInk.value_or(stage.colours.ink), rimWidth + 2 * keyline);
+    stroke(stage.tweaks.stickerWhite.value_or(Qt::white), rimWidth);
+}
+
+/// The same body, a little up and to the left: what it leaves uncovered is in the shade.
+QPainterPath shadeOf(const QPainterPath& body) {
+    QPainterPath path = body.translated(-7, -10);
+    path.addPath(body);
+    path.setFillRule(Qt::OddEvenFill);
+    return path;
+}
+
+/// Marks that run over the edge take the shade of the body with them.
+constexpr QColor evenShade{110, 60, 30, 30};
+
+void drawHighlights(QPainter& painter, const Stage& stage) {
+    struct Light {
+        Art art;
+        double opacity;
+    };
+    constexpr std::array lights{Light{broadLight, 0.22}, Light{smallLight, 0.5}, Light{speckOfLight, 0.5}};
+    const PainterScope scope(painter);
+    for (const auto& [art, opacity] : lights) {
+        painter.setOpacity(opacity);
+        painter.fillPath(stage.soft.bendy(art.path()), stage.colours.light);
+    }
+}
+
+void drawBody(QPainter& painter, const Stage& stage) {
+    const PainterScope scope(painter);
+    painter.setTransform(stage.body, true);
+    painter.fillPath(stage.bent, stage.colours.body);
+    painter.setClipPath(stage.bent, Qt::IntersectClip);
+    painter.fillPath(shadeOf(stage.bent), stage.colours.shade);
+    drawTexture(painter, stage);
+    painter.fillPath(shadeOf(stage.bent), evenShade);
+    drawHighlights(painter, stage);
+}
+
+/// What the pet has on it at the moment.
+struct Belongings {
+    explicit Belongings(const Stage& stage)
+        : accessory(worn(stage)), keepsake(held(stage)), talking(talkingWith(stage)),
+          typing(typingOn(stage)) {}
+
+    std::optional<Placed> accessory;
+    std::optional<Placed> keepsake;
+    std::optional<Placed> talking;
+    std::optional<Placed> typing;
+};
+
+/// All that the rim goes around.
+QPainterPath everything(const Stage& stage, const Belongings& things) {
+    QPainterPath path = stage.outline;
+    path.setFillRule(Qt::WindingFill);
+    if (stage.tweaks.parts != Parts::all) {
+        return path;
+    }
+    for (const auto* thing : {&things.accessory, &things.keepsake, &things.talking, &things.typing}) {
+        if (*thing) {
+            path.addPath(outline(**thing));
+        }
+    }
+    for (const QTransform& seat : pawSeats(stage)) {
+        path.addPath(seat.map(bean.path()));
+    }
+    return path;
+}
+
+void drawBelongings(QPainter& painter, const Stage& stage, const Belongings& things) {
+    for (const auto* thing : {&things.talking, &things.accessory, &things.keepsake, &things.typing}) {
+        if (*thing) {
+            drawContact(painter, stage, **thing);
+            drawLayers(painter, stage, **thing);
+        }
+    }
+    drawPaws(painter, stage);
+    if (stage.pose.pointer) {
+        drawPointer(painter, stage);
+    }
+}
+
+} // namespace
+
+void draw(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day, const WumblePose& pose,
+          Sticker sticker, const Tweaks& tweaks) {
+    const PainterScope scope(painter);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setTransform(boxIn(place), true);
+    const Stage stage(day, pose, tweaks);
+    const Belongings things(stage);
+    if (tweaks.parts != Parts::face) {
+        if (tweaks.groundShadow) {
+            drawGroundShadow(painter, stage);
+        }
+        if (sticker == Sticker::dieCut) {
+            drawOutlines(painter, stage, everything(stage, things));
+        }
+        drawBody(painter, stage);
+    }
+    if (tweaks.parts == Parts::all || tweaks.cheeksWithBody) {
+        drawCheeks(painter, stage);
+    }
+    if (tweaks.parts != Parts::body) {
+        drawFace(painter, stage);
+    }
+    if (tweaks.parts == Parts::all) {
+        drawBelongings(painter, stage, things);
+        drawEffects(painter, stage);
+    }
+}
+
+} // namespace quietlark::SoftWumble

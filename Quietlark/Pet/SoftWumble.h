@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Quietlark/Pet/Palette.h"
+#include "Quietlark/Pet/WumblePose.h"
+#include "WumbleCore/Life/WumbleDay.h"
+
+#include <QPainter>
+
+/// The pet, drawn: one soft sticker figure in a box of 270 by 270. Pure functions of what they are given.
+namespace quietlark::SoftWumble {
+
+inline constexpr double box = 270;
+
+enum class Sticker { plain, dieCut };
+enum class Parts { all, body, face };
+
+struct Tweaks {
+    std::optional<QColor> stickerWhite; ///< of the die-cut rim; white without one
+    std::optional<QColor> stickerInk;   ///< of the keyline around it
+    std::optional<QColor> faceInk;
+    double faceScale = 1;
+    bool groundShadow = false;
+    Parts parts = Parts::all;
+    std::optional<double> bodyHeight; ///< instead of the height that the pet has grown to
+    double cheekInset = 0;            ///< how much closer to the middle the cheeks are
+    bool cheeksWithBody = false;      ///< cheeks are drawn where only the body is
+
+    bool operator==(const Tweaks&) const = default;
+};
+
+/// Draws the pet into the largest square in the middle of `place`. The painter is left as it was.
+void draw(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day, const WumblePose& pose,
+          Sticker sticker = Sticker::dieCut, const Tweaks& tweaks = {});
+
+/// From the rest position of the body's foot to where its top is now, in the box.
+wumble::Point top(const WumblePose& pose, const wumble::WumbleDay& day, const Tweaks& tweaks = {});
+
+/// 1 for a pet with paws, lower for a clump.
+double bodyHeight(const wumble::WumbleDay& day, const Tweaks& tweaks = {});
+
+} // namespace quietlark::SoftWumble

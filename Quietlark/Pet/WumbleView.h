@@ -1,0 +1,98 @@
+#pragma once
+
+#include "Quietlark/Pet/JellyMemory.h"
+#include "Quietlark/Pet/SoftWumble.h"
+#include "Quietlark/Theme/Appearance.h"
+#include "WumbleCore/Foundation/Random.h"
+#include "WumbleCore/Motion/WumbleJelly.h"
+
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+
+namespace quietlark {
+
+/// The time that pets live by: seconds that only go forward. Stills and films put their own in.
+struct WumbleClock {
+    std::function<double()> now;
+    double start = 0;
+};
+
+/// The seconds since the program's first look at them.
+WumbleClock realClock();
+
+/// One pet in a widget: it moves in its mood, follows the pointer, and answers when it is poked.
+class WumbleView : public QWidget {
+public:
+    explicit WumbleView(const wumble::WumbleDay& day, QWidget* parent = nullptr);
+
+    /// Told of every gesture that a poke brings, for the sound of it.
+    static std::function<void(wumble::WumbleGesture)> onPoke;
+
+    void setDay(const wumble::WumbleDay& day);
+    void setMood(wumble::WumbleMood mood);
+    void setCalm(bool calm);
+    void setAppearance(Appearance appearance);
+    void setTweaks(const SoftWumble::Tweaks& tweaks);
+    void setClock(WumbleClock clock);
+    void setRandom(wumble::Random random);
+    void setFamilyName(const QString& name); ///< "Wumble" unless the person named them
+    void setFollowsPointer(bool follows);
+    void setGaze(std::optional<wumble::Point> gaze); ///< instead of the pointer
+    void setPokable(bool pokable);
+    void setSticker(SoftWumble::Sticker sticker);
+
+    /// Plays a gesture `after` seconds from now; one that needs paws only when the pet has some.
+    void react(wumble::WumbleGesture gesture, double after = 0);
+
+    /// A playful click: a gesture from the list of silly ones, another one than last time.
+    void poke();
+
+    const wumble::WumbleDay& day() const { return doing_.day; }
+    wumble::WumbleMood mood() const { return doing_.mood; }
+
+    /// What is drawn at that time; the same time gives the same pose at any frame rate.
+    WumblePose pose(double now);
+
+    /// A pet that stands still asks for no frames.
+    bool isMoving(double now) const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    WumblePose firmPose(double now, const Look& pointer, const wumble::WumbleJelly& jelly) const;
+    Look pointerLook() const;
+    double pulledBy(double now) const;
+    void say();
+    void nextFrame();
+
+    Appearance appearance_;
+    SoftWumble::Tweaks tweaks_;
+    SoftWumble::Sticker sticker_ = SoftWumble::Sticker::dieCut;
+    WumbleClock clock_ = realClock();
+    wumble::Random random_;
+    QString familyName_;
+    Doing doing_;
+    JellyMemory memory_;
+    std::optional<wumble::Point> gaze_;
+    std::optional<QPointF> pressedAt_;
+    double pull_ = 0; ///< while it is dragged, -1 to 1; after that what it was when it was let go
+    bool pokable_ = true;
+    QTimer frames_;
+};
+
+/// Draws one fixed pose, for pictures and small places.
+void drawWumbleStill(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day,
+                     wumble::WumbleMood mood, Appearance appearance, SoftWumble::Tweaks tweaks = {});
+
+/// The rim and keyline of that appearance.
+SoftWumble::Tweaks stickerColours(Appearance appearance, SoftWumble::Tweaks tweaks = {});
+
+} // namespace quietlark

@@ -1,0 +1,98 @@
+#include "Quietlark/Pet/MenuBarIcon.h"
+#include "Quietlark/Pet/WumbleView.h"
+#include "Quietlark/Renderers/PetCells.h"
+#include "Quietlark/Renderers/PetSheets.h"
+#include "Quietlark/Theme/Role.h"
+
+#include <array>
+
+namespace quietlark {
+
+namespace {
+
+constexpr std::array appIconSizes{16, 22, 24, 32, 48, 64, 128, 256, 512};
+
+/// The pet that stands for the program: a mitarashi with a sprout, glad to see you.
+wumble::WumbleDay mascot() {
+    auto day = samplePet(wumble::WumbleBase::sakura, 5);
+    day.traits.eyes = wumble::WumbleEyes::round;
+    day.traits.accessory = wumble::WumbleAccessory::sprout;
+    return day;
+}
+
+QImage appIcon(int size) {
+    constexpr double faceShownFrom = 48; ///< pixels; below it the pet fills the icon
+    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    const double room = size < faceShownFrom ? 0.06 * size : 0;
+    SoftWumble::Tweaks tweaks;
+    tweaks.faceScale = size < faceShownFrom ? 1.35 : 1;
+    SoftWumble::draw(painter, QRectF(-room, -room, size + 2 * room, size + 2 * room), mascot(), {},
+                     SoftWumble::Sticker::dieCut, tweaks);
+    return image;
+}
+
+std::vector<MenuBarIcon::Mood> trayMoods() {
+    std::vector<MenuBarIcon::Mood> moods;
+    for (int sleepiness = 0; sleepiness < 6; ++sleepiness) {
+        moods.emplace_back(MenuBarIcon::mood::Awake{sleepiness});
+    }
+    moods.emplace_back(MenuBarIcon::mood::Due{});
+    moods.emplace_back(MenuBarIcon::mood::OnBreak{});
+    moods.emplace_back(MenuBarIcon::mood::Paused{});
+    return moods;
+}
+
+/// One row of the tray icon's moods, each pixel `zoom` pixels wide.
+QImage trayRow(int size, int zoom, bool dark) {
+    constexpr int gap = 8;
+    const auto moods = trayMoods();
+    const int count = static_cast<int>(moods.size());
+    QImage row(count * (size + gap) + gap, size + 2 * gap, QImage::Format_ARGB32_Premultiplied);
+    row.fill(colour(Role::page, {.dark = dark}));
+    QPainter painter(&row);
+    for (int place = 0; place < count; ++place) {
+        const auto& mood = moods[static_cast<std::size_t>(place)];
+        painter.drawImage(gap + place * (size + gap), gap, MenuBarIcon::image({mood, dark}, size));
+    }
+    painter.end();
+    return row.scaled(row.size() * zoom);
+}
+
+QImage stacked(const std::vector<QImage>& rows) {
+    QSize size;
+    for (const auto& row : rows) {
+        size = {std::max(size.width(), row.width()), size.height() + row.height()};
+    }
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::gray);
+    QPainter painter(&image);
+    int y = 0;
+    for (const auto& row : rows) {
+        painter.drawImage(0, y, row);
+        y += row.height();
+    }
+    return image;
+}
+
+} // namespace
+
+bool renderAppIcon(const std::filesystem::path& folder, Appearance) {
+    return std::ranges::all_of(appIconSizes, [&](int size) {
+        return save(appIcon(size), folder, "quietlark-" + std::to_string(size) + ".png");
+    });
+}
+
+bool renderIconOptions(const std::filesystem::path& folder, Appearance) {
+    std::vector<QImage> rows;
+    for (const bool dark : {false, true}) {
+        for (const int size : {16, 22, 24}) {
+            rows.push_back(trayRow(size, 1, dark));
+        }
+        rows.push_back(trayRow(22, 4, dark));
+    }
+    return save(stacked(rows), folder, "tray.png");
+}
+
+} // namespace quietlark

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Quietlark/Theme/Appearance.h"
+
+#include <filesystem>
+
+/// The pictures that renderers write. Each returns false when something couldn't be written.
+namespace quietlark {
+
+/// Every flavour, complete, each with other looks; at full size and at 40 points.
+bool renderSprites(const std::filesystem::path& folder, Appearance appearance);
+
+/// One sheet for each vocabulary of looks: flavours (also in grey), faces, expressions, growth, accessories,
+/// keepsakes, props.
+bool renderLooks(const std::filesystem::path& folder, Appearance appearance);
+
+/// A strip of frames for each mood and each gesture.
+bool renderMotion(const std::filesystem::path& folder, Appearance appearance);
+
+/// The program's icon in the sizes that a desktop asks for.
+bool renderAppIcon(const std::filesystem::path& folder, Appearance appearance);
+
+/// The tray icon in all moods at 16, 22 and 24 pixels, on light and dark panels, and as seen through a glass.
+bool renderIconOptions(const std::filesystem::path& folder, Appearance appearance);
+
+/// The three nudges as cards.
+bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance);
+
+} // namespace quietlark

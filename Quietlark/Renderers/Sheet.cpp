@@ -1,0 +1,47 @@
+#include "Quietlark/Renderers/Sheet.h"
+
+namespace quietlark {
+
+namespace {
+
+constexpr double captionHeight = 16;
+constexpr double smallestCaptioned = 60; ///< narrower cells have no room for words
+
+bool hasCaptions(const SheetLayout& layout) {
+    return layout.ink.isValid() && layout.cell >= smallestCaptioned;
+}
+
+} // namespace
+
+QImage sheet(const std::vector<Cell>& cells, const SheetLayout& layout) {
+    const int count = static_cast<int>(cells.size());
+    const int columns = std::max(1, std::min(layout.columns, count));
+    const int rows = (count + columns - 1) / columns;
+    const double height = layout.cell + (hasCaptions(layout) ? captionHeight : 0);
+    QImage image(QSizeF(columns * layout.cell * layout.scale, rows * height * layout.scale).toSize(),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(layout.ground);
+    QPainter painter(&image);
+    painter.scale(layout.scale, layout.scale);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (int place = 0; place < count; ++place) {
+        const auto& cell = cells[static_cast<std::size_t>(place)];
+        const QPointF corner(place % columns * layout.cell, place / columns * height);
+        cell.draw(painter, QRectF(corner, QSizeF(layout.cell, layout.cell)));
+        if (hasCaptions(layout)) {
+            painter.setPen(layout.ink);
+            painter.drawText(QRectF(corner.x(), corner.y() + layout.cell, layout.cell, captionHeight),
+                             Qt::AlignCenter, QString::fromStdString(cell.caption));
+        }
+    }
+    painter.end();
+    return layout.grey ? image.convertToFormat(QImage::Format_Grayscale8) : image;
+}
+
+bool save(const QImage& image, const std::filesystem::path& folder, const std::string& name) {
+    std::error_code failed;
+    std::filesystem::create_directories(folder, failed);
+    return image.save(QString::fromStdString((folder / name).string()), "PNG");
+}
+
+} // namespace quietlark
