@@ -7,6 +7,7 @@
 #include <charconv>
 #include <cmath>
 #include <optional>
+#include <span>
 #include <string_view>
 
 namespace quietlark {
@@ -43,9 +44,61 @@ double secondsAfter(const Arguments& arguments, std::string_view option, double 
     return isLength && std::isfinite(seconds) ? seconds : usual;
 }
 
-bool namesNoAppearance(const Arguments& arguments) {
+std::optional<std::string> appearance(const Arguments& arguments) {
     const auto value = valueAfter(arguments, "--appearance");
-    return value && std::ranges::find(appearances, wumble::lowerCased(*value)) == appearances.end();
+    return value ? std::optional(wumble::lowerCased(*value)) : std::nullopt;
+}
+
+bool namesNoAppearance(const Arguments& arguments) {
+    const auto named = appearance(arguments);
+    return named && std::ranges::find(appearances, *named) == appearances.end();
+}
+
+command::Render render(std::string_view option, const Arguments& arguments) {
+    const std::string folder = valueAfter(arguments, option).value_or("");
+    return {.option = std::string(option),
+            .folder = folder.starts_with("--") ? "" : folder,
+            .dark = appearance(arguments) == "dark"};
+}
+
+command::Render renderLight(std::string_view option, const Arguments& arguments) {
+    command::Render light = render(option, arguments);
+    light.dark = false;
+    return light;
+}
+
+/// An option that makes the process something else than the application.
+struct Tool {
+    std::string_view option;
+    Command (*command)(std::string_view option, const Arguments& arguments);
+};
+
+/// Those that are looked for before the appearance is read, in their order, and those after it.
+constexpr std::array earlyTools{
+    Tool{"--sprite-sheet", [](auto option, auto& all) -> Command { return renderLight(option, all); }},
+    Tool{"--icon-options", [](auto option, auto& all) -> Command { return renderLight(option, all); }},
+    Tool{"--app-icon", [](auto option, auto& all) -> Command { return renderLight(option, all); }},
+};
+constexpr std::array tools{
+    Tool{"--motion-clips", [](auto option, auto& all) -> Command { return render(option, all); }},
+    Tool{"--nudge-cards", [](auto option, auto& all) -> Command { return render(option, all); }},
+    Tool{"--export-sounds", [](auto option, auto& all) -> Command { return render(option, all); }},
+    Tool{"--watch-mic",
+         [](auto option, auto& all) -> Command {
+             return command::WatchMicrophone{secondsAfter(all, option, command::WatchMicrophone{}.seconds)};
+         }},
+    Tool{"--watch-capture",
+         [](auto option, auto& all) -> Command {
+             return command::WatchCapture{secondsAfter(all, option, command::WatchCapture{}.seconds)};
+         }},
+    Tool{"--looks-sheets", [](auto option, auto& all) -> Command { return render(option, all); }},
+    Tool{"--diagnose", [](auto, auto&) -> Command { return command::Diagnose{}; }},
+};
+
+std::optional<Command> firstOf(std::span<const Tool> table, const Arguments& arguments) {
+    const auto found =
+        std::ranges::find_if(table, [&](const Tool& tool) { return has(arguments, tool.option); });
+    return found == table.end() ? std::nullopt : std::optional(found->command(found->option, arguments));
 }
 
 std::optional<std::string> firstUnknownOption(const Arguments& arguments) {
@@ -60,19 +113,14 @@ std::optional<std::string> firstUnknownOption(const Arguments& arguments) {
 } // namespace
 
 Command commandFor(const Arguments& arguments) {
+    if (const auto tool = firstOf(earlyTools, arguments)) {
+        return *tool;
+    }
     if (namesNoAppearance(arguments)) {
         return command::Refuse{"--appearance takes light, dark or system\n", badAppearance};
     }
-    if (has(arguments, "--watch-mic")) {
-        return command::WatchMicrophone{
-            secondsAfter(arguments, "--watch-mic", command::WatchMicrophone{}.seconds)};
-    }
-    if (has(arguments, "--watch-capture")) {
-        return command::WatchCapture{
-            secondsAfter(arguments, "--watch-capture", command::WatchCapture{}.seconds)};
-    }
-    if (has(arguments, "--diagnose")) {
-        return command::Diagnose{};
+    if (const auto tool = firstOf(tools, arguments)) {
+        return *tool;
     }
     if (const auto unknown = firstUnknownOption(arguments)) {
         return command::Refuse{"Unknown option " + *unknown + ", so Quietlark isn't starting.\n",

@@ -16,6 +16,14 @@ struct RunApplication {
     bool operator==(const RunApplication&) const = default;
 };
 
+/// Pictures or sounds, written into a folder.
+struct Render {
+    std::string option; ///< of a renderer
+    std::string folder; ///< empty: the renderer's own
+    bool dark = false;
+    bool operator==(const Render&) const = default;
+};
+
 /// A report of what the detector sees now.
 struct Diagnose {
     bool operator==(const Diagnose&) const = default;
@@ -40,8 +48,8 @@ struct Refuse {
 
 } // namespace command
 
-using Command = std::variant<command::RunApplication, command::Diagnose, command::WatchMicrophone,
-                             command::WatchCapture, command::Refuse>;
+using Command = std::variant<command::RunApplication, command::Render, command::Diagnose,
+                             command::WatchMicrophone, command::WatchCapture, command::Refuse>;
 
 /// `arguments` without the program's name. The option that stands first in the table of options decides, wherever it
 /// stands among the arguments; only when there is none does an unknown one matter.

@@ -1,27 +1,58 @@
 #include "Quietlark/AppDelegate.h"
 #include "Quietlark/CommandLine.h"
 #include "Quietlark/Diagnosis/Diagnosis.h"
-#include "WumbleCore/Foundation/Match.h"
+#include "Quietlark/Renderers/Renderers.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 
 #include <csignal>
 #include <cstdio>
 #include <string>
+#include <variant>
 #include <vector>
 
-int main(int argumentCount, char** arguments) {
-    using namespace quietlark;
-    const Command asked = commandFor(std::vector<std::string>(arguments + 1, arguments + argumentCount));
-    if (const auto* refusal = std::get_if<command::Refuse>(&asked)) {
-        std::fputs(refusal->complaint.c_str(), stderr);
-        return refusal->status;
+namespace {
+
+using namespace quietlark;
+
+/// Each kind of process, by what it needs around it.
+struct Process {
+    int& argumentCount;
+    char** arguments;
+
+    int operator()(const command::Refuse& refusal) const {
+        std::fputs(refusal.complaint.c_str(), stderr);
+        return refusal.status;
     }
+
+    int operator()(const command::Render& render) const {
+        // Pictures need no screen, and look the same on any.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        const QApplication application(argumentCount, arguments);
+        const int status = runRenderer(render.option, render.folder, {.dark = render.dark});
+        if (status != 0) {
+            std::fputs("The folder for the output can't be written.\n", stderr);
+        }
+        return status;
+    }
+
+    int operator()(const command::RunApplication& options) const {
+        const QCoreApplication application(argumentCount, arguments);
+        return runApplication(options);
+    }
+
+    int operator()(const auto& diagnosis) const {
+        const QCoreApplication application(argumentCount, arguments);
+        return runDiagnosis(diagnosis);
+    }
+};
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
     // A service may end while something is being written to it; that is told by the write, not by the process's end.
     std::signal(SIGPIPE, SIG_IGN);
-    const QCoreApplication application(argumentCount, arguments);
-    return wumble::match(
-        asked, [](const command::RunApplication& options) { return runApplication(options); },
-        [](const command::Refuse& refusal) { return refusal.status; },
-        [](const auto& diagnosis) { return runDiagnosis(diagnosis); });
+    const Command asked = commandFor(std::vector<std::string>(arguments + 1, arguments + argumentCount));
+    return std::visit(Process{argumentCount, arguments}, asked);
 }

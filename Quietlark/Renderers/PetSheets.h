@@ -23,6 +23,9 @@ bool renderAppIcon(const std::filesystem::path& folder, Appearance appearance);
 /// The tray icon in all moods at 16, 22 and 24 pixels, on light and dark panels, and as seen through a glass.
 bool renderIconOptions(const std::filesystem::path& folder, Appearance appearance);
 
+/// Each cue as a WAV file by its name, whatever the appearance.
+bool exportSounds(const std::filesystem::path& folder, Appearance appearance);
+
 /// The three nudges as cards.
 bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance);
 

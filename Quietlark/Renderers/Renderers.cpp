@@ -18,6 +18,7 @@ constexpr std::array table{
     Renderer{"--app-icon", "build/app-icon", renderAppIcon},
     Renderer{"--motion-clips", "build/motion", renderMotion},
     Renderer{"--nudge-cards", "build/nudge-cards", renderNudgeCards},
+    Renderer{"--export-sounds", "build/sounds", exportSounds},
     Renderer{"--looks-sheets", "build/looks", renderLooks},
 };
 
