@@ -1,6 +1,6 @@
 """Runs systemd-logind in the mount namespace it is started in: `private_logind.py <folder>`, with the address of
 its bus in the environment. Writes "<session> <path>" once there is a session, then carries out the words on its
-standard input ("lock 1", "lock 0", "suspend", "stop", "start") and answers "done" to each."""
+standard input ("lock 1", "lock 0", "suspend", "stop", "start") and answers "done" to each, one after the other."""
 
 import os
 import subprocess

@@ -51,4 +51,9 @@ bool BusTest::comesTrue(const std::function<bool()>& condition) {
     });
 }
 
+void BusTest::runAWhile() {
+    int rounds = 0;
+    comesTrue([&] { return ++rounds > 60; });
+}
+
 } // namespace quietlark::test

@@ -58,6 +58,9 @@ protected:
     /// Refreshes and runs the event loop until the condition holds.
     bool comesTrue(const std::function<bool()>& condition);
 
+    /// Refreshes and runs the event loop some dozens of times, for what must not happen.
+    void runAWhile();
+
     lab::PrivateBus session;
     SetClock clock;
     PlainIdentity identity;

@@ -1,5 +1,6 @@
 #include "Quietlark/Platform/Linux/DBus/BusScreenLock.h"
 
+#include "Quietlark/Platform/Linux/DBus/LogindNames.h"
 #include "Quietlark/Platform/Linux/DBus/ScreenSavers.h"
 
 #include <QProcess>
@@ -30,13 +31,12 @@ void BusScreenLock::tryLogind() {
         runProgram();
         return;
     }
-    manager_.call(
-        {LogindSession::service, logind_->path(), LogindSession::sessionInterface, QStringLiteral("Lock")},
-        {}, [](const QDBusMessage& reply) {
-            if (reply.type() != QDBusMessage::ReplyMessage) {
-                runProgram();
-            }
-        });
+    manager_.call({logind::service, logind_->path(), logind::sessionInterface, QStringLiteral("Lock")}, {},
+                  [](const QDBusMessage& reply) {
+                      if (reply.type() != QDBusMessage::ReplyMessage) {
+                          runProgram();
+                      }
+                  });
 }
 
 void BusScreenLock::runProgram() {

@@ -1,8 +1,8 @@
 #include "Quietlark/Platform/Linux/DBus/BusSleepAssertion.h"
 
-#include "Quietlark/Platform/Linux/DBus/LogindSession.h"
+#include "Quietlark/Platform/Linux/DBus/LogindNames.h"
 #include "Quietlark/Platform/Linux/DBus/OwnName.h"
-#include "Quietlark/Platform/Linux/DBus/SessionManagerHolds.h"
+#include "Quietlark/Platform/Linux/DBus/SessionManagerNames.h"
 
 #include <utility>
 
@@ -11,7 +11,7 @@ namespace quietlark {
 namespace {
 
 BusMethod managerMethod(const QString& member) {
-    return {SessionManagerHolds::service, SessionManagerHolds::path, SessionManagerHolds::service, member};
+    return {sessionManager::service, sessionManager::path, sessionManager::service, member};
 }
 
 } // namespace
@@ -21,8 +21,8 @@ void BusSleepAssertion::hold(const std::string& reason) {
         return;
     }
     const QString why = QString::fromStdString(reason);
-    const BusMethod inhibit = {LogindSession::service, LogindSession::managerPath,
-                               LogindSession::managerInterface, QStringLiteral("Inhibit")};
+    const BusMethod inhibit = {logind::service, logind::path, logind::managerInterface,
+                               QStringLiteral("Inhibit")};
     logind_.call(inhibit, {QStringLiteral("idle"), ownName::shown, why, QStringLiteral("block")},
                  [this, why, hold = ++hold_](const QDBusMessage& reply) {
                      if (!held_ || hold != hold_) {
@@ -38,7 +38,7 @@ void BusSleepAssertion::hold(const std::string& reason) {
 void BusSleepAssertion::askManager(const QString& reason, int hold) {
     constexpr unsigned noWindow = 0;
     manager_.call(managerMethod(QStringLiteral("Inhibit")),
-                  {ownName::service, noWindow, reason, SessionManagerHolds::idleFlag},
+                  {ownName::service, noWindow, reason, sessionManager::idleFlag},
                   [this, hold](const QDBusMessage& reply) {
                       if (reply.type() != QDBusMessage::ReplyMessage) {
                           return;

@@ -1,6 +1,6 @@
 #include "Quietlark/Platform/Linux/DBus/LogindHolds.h"
 
-#include "Quietlark/Platform/Linux/DBus/LogindSession.h"
+#include "Quietlark/Platform/Linux/DBus/LogindNames.h"
 
 #include <QDBusArgument>
 #include <unistd.h>
@@ -9,9 +9,6 @@ namespace quietlark {
 
 namespace {
 
-const QString service = LogindSession::service;
-const QString path = LogindSession::managerPath;
-const QString managerInterface = LogindSession::managerInterface;
 const QString idle = QStringLiteral("idle");
 
 struct LogindInhibitor {
@@ -49,24 +46,27 @@ bool concernsUs(const LogindInhibitor& inhibitor) {
 } // namespace
 
 LogindHolds::LogindHolds(std::shared_ptr<Bus> system) : link_(std::move(system)) {
-    link_.onSignal({path,
+    link_.onSignal({logind::path,
                     QStringLiteral("org.freedesktop.DBus.Properties"),
                     QStringLiteral("PropertiesChanged"),
-                    {managerInterface}},
+                    {logind::managerInterface}},
                    [this](const QDBusMessage&) { askMask(); });
     link_.followService(
-        service, [this] { askMask(); },
+        logind::service, [this] { askMask(); },
         [this] {
             setMask({});
             answered_ = false;
         });
 }
 
-bool LogindHolds::settled() const { return answered_ || (link_.knows(service) && !link_.isRunning(service)); }
+bool LogindHolds::settled() const {
+    return answered_ || (link_.knows(logind::service) && !link_.isRunning(logind::service));
+}
 
 void LogindHolds::askMask() {
-    link_.getProperty({service, path, managerInterface, QStringLiteral("BlockInhibited")},
-                      [this](const QVariant& mask) { setMask(mask.toString()); });
+    link_.getProperty(
+        {logind::service, logind::path, logind::managerInterface, QStringLiteral("BlockInhibited")},
+        [this](const QVariant& mask) { setMask(mask.toString()); });
 }
 
 void LogindHolds::setMask(const QString& mask) {
@@ -89,8 +89,8 @@ void LogindHolds::refresh(double uptime) {
 
 void LogindHolds::list() {
     listing_ = true;
-    link_.call({service, path, managerInterface, QStringLiteral("ListInhibitors")}, {},
-               [this](const QDBusMessage& reply) {
+    link_.call({logind::service, logind::path, logind::managerInterface, QStringLiteral("ListInhibitors")},
+               {}, [this](const QDBusMessage& reply) {
                    listing_ = false;
                    answered_ = true;
                    holds_.clear();

@@ -1,15 +1,12 @@
 #include "Quietlark/Platform/Linux/DBus/LogindSession.h"
 
+#include "Quietlark/Platform/Linux/DBus/LogindNames.h"
+
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <unistd.h>
 
 namespace quietlark {
-
-const QString LogindSession::service = QStringLiteral("org.freedesktop.login1");
-const QString LogindSession::managerPath = QStringLiteral("/org/freedesktop/login1");
-const QString LogindSession::managerInterface = QStringLiteral("org.freedesktop.login1.Manager");
-const QString LogindSession::sessionInterface = QStringLiteral("org.freedesktop.login1.Session");
 
 namespace {
 
@@ -32,25 +29,28 @@ QList<Way> waysToOwnSession() {
 } // namespace
 
 LogindSession::LogindSession(std::shared_ptr<Bus> system) : link_(std::move(system)) {
-    link_.onSignal({managerPath, managerInterface, QStringLiteral("PrepareForSleep")},
+    link_.onSignal({logind::path, logind::managerInterface, QStringLiteral("PrepareForSleep")},
                    [this](const QDBusMessage& message) {
-                       if (link_.isOwner(service, message)) {
+                       if (link_.isOwner(logind::service, message)) {
                            setPreparingForSleep(message.arguments().value(0).toBool());
                        }
                    });
     link_.followService(
-        service, [this] { find(); },
+        logind::service, [this] { find(); },
         [this] {
             found_ = false;
             setPreparingForSleep(false);
         });
 }
 
-bool LogindSession::settled() const { return found_ || (link_.knows(service) && !link_.isRunning(service)); }
+bool LogindSession::settled() const {
+    return found_ || (link_.knows(logind::service) && !link_.isRunning(logind::service));
+}
 
 void LogindSession::find() {
-    link_.getProperty({service, managerPath, managerInterface, QStringLiteral("PreparingForSleep")},
-                      [this](const QVariant& value) { setPreparingForSleep(value.toBool()); });
+    link_.getProperty(
+        {logind::service, logind::path, logind::managerInterface, QStringLiteral("PreparingForSleep")},
+        [this](const QVariant& value) { setPreparingForSleep(value.toBool()); });
     tryWay(0);
 }
 
@@ -60,8 +60,8 @@ void LogindSession::tryWay(qsizetype index) {
         setPath({});
         return;
     }
-    link_.call({service, managerPath, managerInterface, ways[index].member}, {ways[index].argument},
-               [this, index](const QDBusMessage& reply) {
+    link_.call({logind::service, logind::path, logind::managerInterface, ways[index].member},
+               {ways[index].argument}, [this, index](const QDBusMessage& reply) {
                    const auto path = qvariant_cast<QDBusObjectPath>(reply.arguments().value(0)).path();
                    reply.type() == QDBusMessage::ReplyMessage ? setPath(path) : tryWay(index + 1);
                });
@@ -79,14 +79,14 @@ void LogindSession::setPath(const QString& path) {
         link_.onSignal({path,
                         QStringLiteral("org.freedesktop.DBus.Properties"),
                         QStringLiteral("PropertiesChanged"),
-                        {sessionInterface}},
+                        {logind::sessionInterface}},
                        [this](const QDBusMessage&) { askLocked(); });
     }
     askLocked();
 }
 
 void LogindSession::askLocked() {
-    link_.getProperty({service, path_, sessionInterface, QStringLiteral("LockedHint")},
+    link_.getProperty({logind::service, path_, logind::sessionInterface, QStringLiteral("LockedHint")},
                       [this](const QVariant& value) {
                           found_ = true;
                           if (value.isValid()) {

@@ -23,11 +23,6 @@ public:
     /// Called after each change of the two. One observer.
     void observe(std::function<void()> changed) { changed_ = std::move(changed); }
 
-    static const QString service;
-    static const QString managerPath;
-    static const QString managerInterface;
-    static const QString sessionInterface;
-
 private:
     void find();
     void tryWay(qsizetype index);

@@ -1,8 +1,8 @@
 #include "Quietlark/Platform/Linux/DBus/SessionEnd.h"
 
-#include "Quietlark/Platform/Linux/DBus/LogindSession.h"
+#include "Quietlark/Platform/Linux/DBus/LogindNames.h"
 #include "Quietlark/Platform/Linux/DBus/OwnName.h"
-#include "Quietlark/Platform/Linux/DBus/SessionManagerHolds.h"
+#include "Quietlark/Platform/Linux/DBus/SessionManagerNames.h"
 
 #include <QDBusObjectPath>
 
@@ -10,8 +10,6 @@ namespace quietlark {
 
 namespace {
 
-const QString manager = SessionManagerHolds::service;
-const QString managerPath = SessionManagerHolds::path;
 const QString clientInterface = QStringLiteral("org.gnome.SessionManager.ClientPrivate");
 
 } // namespace
@@ -22,27 +20,29 @@ SessionEnd::SessionEnd(const Buses& buses, std::function<void()> ending)
     // What this program starts isn't the session's client of that id.
     qunsetenv("DESKTOP_AUTOSTART_ID");
     manager_.followService(
-        manager, [this] { registerClient(); }, [this] { client_.clear(); });
+        sessionManager::service, [this] { registerClient(); }, [this] { client_.clear(); });
     logind_.followService(
-        LogindSession::service, [] {}, [] {});
-    logind_.onSignal(
-        {LogindSession::managerPath, LogindSession::managerInterface, QStringLiteral("PrepareForShutdown")},
-        [this](const QDBusMessage& message) {
-            if (logind_.isOwner(LogindSession::service, message) && message.arguments().value(0).toBool()) {
-                ending_();
-            }
-        });
+        logind::service, [] {}, [] {});
+    logind_.onSignal({logind::path, logind::managerInterface, QStringLiteral("PrepareForShutdown")},
+                     [this](const QDBusMessage& message) {
+                         if (logind_.isOwner(logind::service, message) &&
+                             message.arguments().value(0).toBool()) {
+                             ending_();
+                         }
+                     });
 }
 
 SessionEnd::~SessionEnd() {
     if (!client_.isEmpty()) {
-        manager_.call({manager, managerPath, manager, QStringLiteral("UnregisterClient")},
+        manager_.call({sessionManager::service, sessionManager::path, sessionManager::service,
+                       QStringLiteral("UnregisterClient")},
                       {QVariant::fromValue(QDBusObjectPath(client_))}, [](const QDBusMessage&) {});
     }
 }
 
 void SessionEnd::registerClient() {
-    manager_.call({manager, managerPath, manager, QStringLiteral("RegisterClient")},
+    manager_.call({sessionManager::service, sessionManager::path, sessionManager::service,
+                   QStringLiteral("RegisterClient")},
                   {ownName::service, startupID_}, [this](const QDBusMessage& reply) {
                       if (reply.type() == QDBusMessage::ReplyMessage) {
                           followClient(qvariant_cast<QDBusObjectPath>(reply.arguments().value(0)).path());
@@ -55,7 +55,7 @@ void SessionEnd::followClient(const QString& path) {
     const auto follow = [&](const char* member, std::function<void()> react) {
         manager_.onSignal({path, clientInterface, QString::fromLatin1(member)},
                           [this, path, react = std::move(react)](const QDBusMessage& message) {
-                              if (path == client_ && manager_.isOwner(manager, message)) {
+                              if (path == client_ && manager_.isOwner(sessionManager::service, message)) {
                                   react();
                               }
                           });
@@ -69,7 +69,7 @@ void SessionEnd::followClient(const QString& path) {
 }
 
 void SessionEnd::answer() {
-    manager_.call({manager, client_, clientInterface, QStringLiteral("EndSessionResponse")},
+    manager_.call({sessionManager::service, client_, clientInterface, QStringLiteral("EndSessionResponse")},
                   {true, QString()}, [](const QDBusMessage&) {});
 }
 

@@ -1,13 +1,12 @@
 #include "Quietlark/Platform/Linux/DBus/SessionManagerHolds.h"
 
+#include "Quietlark/Platform/Linux/DBus/SessionManagerNames.h"
+
 #include <QDBusArgument>
 #include <QDBusObjectPath>
 #include <algorithm>
 
 namespace quietlark {
-
-const QString SessionManagerHolds::service = QStringLiteral("org.gnome.SessionManager");
-const QString SessionManagerHolds::path = QStringLiteral("/org/gnome/SessionManager");
 
 namespace {
 
@@ -20,18 +19,20 @@ QString pathIn(const QDBusMessage& message) {
 } // namespace
 
 SessionManagerHolds::SessionManagerHolds(std::shared_ptr<Bus> session) : link_(std::move(session)) {
-    link_.onSignal({path, service, QStringLiteral("InhibitorAdded")}, [this](const QDBusMessage& message) {
-        if (link_.isOwner(service, message)) {
-            add(pathIn(message));
-        }
-    });
-    link_.onSignal({path, service, QStringLiteral("InhibitorRemoved")}, [this](const QDBusMessage& message) {
-        if (link_.isOwner(service, message)) {
-            remove(pathIn(message));
-        }
-    });
+    link_.onSignal({sessionManager::path, sessionManager::service, QStringLiteral("InhibitorAdded")},
+                   [this](const QDBusMessage& message) {
+                       if (link_.isOwner(sessionManager::service, message)) {
+                           add(pathIn(message));
+                       }
+                   });
+    link_.onSignal({sessionManager::path, sessionManager::service, QStringLiteral("InhibitorRemoved")},
+                   [this](const QDBusMessage& message) {
+                       if (link_.isOwner(sessionManager::service, message)) {
+                           remove(pathIn(message));
+                       }
+                   });
     link_.followService(
-        service, [this] { list(); },
+        sessionManager::service, [this] { list(); },
         [this] {
             listed_ = false;
             inhibitors_.clear();
@@ -43,13 +44,13 @@ bool SessionManagerHolds::settled() const {
     const bool answered = listed_ && std::ranges::none_of(inhibitors_, [](const Inhibitor& inhibitor) {
                               return inhibitor.unanswered > 0;
                           });
-    return answered || (link_.knows(service) && !link_.isRunning(service));
+    return answered || (link_.knows(sessionManager::service) && !link_.isRunning(sessionManager::service));
 }
 
 std::vector<DisplayHold> SessionManagerHolds::holds() const {
     std::vector<DisplayHold> result;
     for (const Inhibitor& inhibitor : inhibitors_) {
-        if (inhibitor.unanswered == 0 && (inhibitor.flags & idleFlag) != 0) {
+        if (inhibitor.unanswered == 0 && (inhibitor.flags & sessionManager::idleFlag) != 0) {
             result.push_back(inhibitor.hold);
         }
     }
@@ -57,17 +58,20 @@ std::vector<DisplayHold> SessionManagerHolds::holds() const {
 }
 
 void SessionManagerHolds::list() {
-    link_.call(
-        {service, path, service, QStringLiteral("GetInhibitors")}, {}, [this](const QDBusMessage& reply) {
-            listed_ = true;
-            for (const auto& inhibitor : qdbus_cast<QList<QDBusObjectPath>>(reply.arguments().value(0))) {
-                add(inhibitor.path());
-            }
-        });
+    link_.call({sessionManager::service, sessionManager::path, sessionManager::service,
+                QStringLiteral("GetInhibitors")},
+               {}, [this](const QDBusMessage& reply) {
+                   listed_ = true;
+                   for (const auto& inhibitor :
+                        qdbus_cast<QList<QDBusObjectPath>>(reply.arguments().value(0))) {
+                       add(inhibitor.path());
+                   }
+               });
 }
 
 void SessionManagerHolds::add(const QString& inhibitorPath) {
-    if (!link_.isRunning(service) || std::ranges::count(inhibitors_, inhibitorPath, &Inhibitor::path) > 0) {
+    if (!link_.isRunning(sessionManager::service) ||
+        std::ranges::count(inhibitors_, inhibitorPath, &Inhibitor::path) > 0) {
         return;
     }
     inhibitors_.push_back({.path = inhibitorPath});
@@ -84,7 +88,7 @@ void SessionManagerHolds::add(const QString& inhibitorPath) {
 
 void SessionManagerHolds::ask(const QString& inhibitorPath, const QString& member,
                               std::function<void(Inhibitor&, const QVariant&)> keep) {
-    link_.call({service, inhibitorPath, inhibitorInterface, member}, {},
+    link_.call({sessionManager::service, inhibitorPath, inhibitorInterface, member}, {},
                [this, inhibitorPath, keep = std::move(keep)](const QDBusMessage& reply) {
                    const auto found = std::ranges::find(inhibitors_, inhibitorPath, &Inhibitor::path);
                    if (found == inhibitors_.end()) {

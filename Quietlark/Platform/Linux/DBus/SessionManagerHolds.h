@@ -13,12 +13,6 @@ public:
     bool settled() const override;
     std::vector<DisplayHold> holds() const override;
 
-    static const QString service;
-    static const QString path;
-
-    /// Of an inhibitor: the session isn't to be taken for idle.
-    static constexpr unsigned idleFlag = 8;
-
 private:
     struct Inhibitor {
         QString path;
