@@ -23,9 +23,9 @@ MateSession::MateSession(const PrivateBus& bus) : bus_(bus) {
     manager_ = std::make_unique<LabProcess>(
         std::vector<std::string>{"mate-session", "--disable-acceleration-check"}, environment_, home);
     spinUntil([&] {
-        return !bus_.call("org.gnome.SessionManager", "/org/gnome/SessionManager",
-                          "org.gnome.SessionManager.GetInhibitors")
-                    .empty();
+        return bus_.call("org.gnome.SessionManager", "/org/gnome/SessionManager",
+                         "org.gnome.SessionManager.IsSessionRunning")
+                   .find("true") != std::string::npos;
     });
 }
 
