@@ -1,4 +1,5 @@
 #include "tests/desktop/bus/BusDesktop.h"
+#include "tests/lab/MateSession.h"
 #include "tests/lab/PrivateLogind.h"
 
 #include <gmock/gmock.h>
@@ -10,36 +11,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
-
-/// The session manager of MATE with nothing to start, on a display of its own.
-class MateSession {
-public:
-    explicit MateSession(const lab::PrivateBus& bus) {
-        const std::string home = folder_.path().string();
-        std::filesystem::create_directories(folder_ / "config/glib-2.0/settings");
-        wumble::test::write(folder_ / "config/glib-2.0/settings/keyfile",
-                            "[org/mate/desktop/session]\nrequired-components-list=@as []\n"
-                            "[org/mate/desktop/session]\nshow-hidden-apps=false\n");
-        display_ = std::make_unique<lab::LabProcess>(
-            std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0", "640x480x24"});
-        lab::Environment environment = bus.asSession();
-        environment.insert({{"HOME", home},
-                            {"XDG_CONFIG_HOME", home + "/config"},
-                            {"XDG_CONFIG_DIRS", home},
-                            {"XDG_RUNTIME_DIR", home},
-                            {"ICEAUTHORITY", home + "/ICEauthority"},
-                            {"GSETTINGS_BACKEND", "keyfile"},
-                            {"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere"},
-                            {"DISPLAY", ":" + display_->readLine().value_or("")}});
-        manager_ = std::make_unique<lab::LabProcess>(
-            std::vector<std::string>{"mate-session", "--disable-acceleration-check"}, environment, home);
-    }
-
-private:
-    wumble::test::TemporaryFolder folder_;
-    std::unique_ptr<lab::LabProcess> display_;
-    std::unique_ptr<lab::LabProcess> manager_;
-};
 
 class SleepHolders : public BusTest {
 protected:
@@ -106,7 +77,7 @@ TEST_F(SleepHolders, whoInhibitsAtARealSessionManagerIsAHolderUntilItDies) {
     LAB_NEEDS("mate-session");
     LAB_NEEDS("mate-session-inhibit");
     LAB_NEEDS("Xvfb");
-    const MateSession manager(session);
+    const lab::MateSession manager(session);
     makeServices();
     const auto inhibit = [&](const std::string& what, const std::string& who) {
         return std::make_unique<lab::LabProcess>(std::vector<std::string>{"mate-session-inhibit", "--inhibit",
@@ -118,13 +89,16 @@ TEST_F(SleepHolders, whoInhibitsAtARealSessionManagerIsAHolderUntilItDies) {
         return session.call("org.gnome.SessionManager", "/org/gnome/SessionManager",
                             "org.gnome.SessionManager.GetInhibitors");
     };
-    ASSERT_TRUE(comesTrue([&] { return !inhibitors().empty(); }));
     auto player = inhibit("idle", "org.gnome.Totem");
     const auto burner = inhibit("logout", "brasero");
     EXPECT_TRUE(become({"org.gnome.Totem: Playing video"}));
+    const std::string before = inhibitors();
     services.sleepAssertion->hold("Quietlark long break");
+    EXPECT_TRUE(comesTrue([&] { return inhibitors() != before; }));
     runAWhile();
     EXPECT_THAT(holders(), ElementsAre("org.gnome.Totem: Playing video"));
+    services.sleepAssertion->release();
+    EXPECT_TRUE(comesTrue([&] { return inhibitors() == before; }));
     player.reset();
     EXPECT_TRUE(become({}));
 }

@@ -1,6 +1,7 @@
 #include "Quietlark/Platform/Linux/DBus/Bus.h"
 
 #include <QCoreApplication>
+#include <QDBusPendingCall>
 #include <QFileInfo>
 #include <atomic>
 #include <chrono>
@@ -15,6 +16,8 @@ namespace quietlark {
 namespace {
 
 constexpr double secondsBetweenAttempts = 5;
+
+using Clock = std::chrono::steady_clock;
 
 QDBusConnection noConnection() { return QDBusConnection(QStringLiteral("quietlark-none")); }
 
@@ -147,7 +150,12 @@ void Bus::flush(double seconds) {
     const QDBusMessage question = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId"));
-    connection_.call(question, QDBus::Block, static_cast<int>(seconds * 1000));
+    const QDBusPendingCall answer = connection_.asyncCall(question);
+    // Qt's own waiting leans on a thread that another bus may be holding up, so it could last for ever.
+    const auto deadline = Clock::now() + std::chrono::duration<double>(seconds);
+    while (!answer.isFinished() && Clock::now() < deadline) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
 }
 
 } // namespace quietlark

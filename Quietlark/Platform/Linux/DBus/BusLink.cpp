@@ -1,6 +1,7 @@
 #include "Quietlark/Platform/Linux/DBus/BusLink.h"
 
 #include <QDBusError>
+#include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
 
@@ -12,6 +13,13 @@ constexpr int answerMilliseconds = 5000;
 
 const QString busName = QStringLiteral("org.freedesktop.DBus");
 const QString busPath = QStringLiteral("/org/freedesktop/DBus");
+
+/// Qt never answers what is asked on a connection that isn't there.
+QDBusPendingCall send(const QDBusConnection& connection, const QDBusMessage& message) {
+    return connection.isConnected()
+               ? connection.asyncCall(message, answerMilliseconds)
+               : QDBusPendingCall::fromError(QDBusError(QDBusError::Disconnected, QStringLiteral("no bus")));
+}
 
 QVariant firstArgument(const QDBusMessage& message) { return message.arguments().value(0); }
 
@@ -31,8 +39,7 @@ void BusLink::call(const BusMethod& method, const QVariantList& arguments, Answe
         QDBusMessage::createMethodCall(method.service, method.path, method.interface, method.member);
     message.setArguments(arguments);
     message.setAutoStartService(false);
-    auto* watcher =
-        new QDBusPendingCallWatcher(bus_->connection().asyncCall(message, answerMilliseconds), &context_);
+    auto* watcher = new QDBusPendingCallWatcher(send(bus_->connection(), message), &context_);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &context_,
                      [answer = std::move(answer)](QDBusPendingCallWatcher* finished) {
                          finished->deleteLater();

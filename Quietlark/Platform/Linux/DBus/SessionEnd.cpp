@@ -19,6 +19,7 @@ SessionEnd::SessionEnd(const Buses& buses, std::function<void()> ending)
       startupID_(qEnvironmentVariable("DESKTOP_AUTOSTART_ID")), ending_(std::move(ending)) {
     // What this program starts isn't the session's client of that id.
     qunsetenv("DESKTOP_AUTOSTART_ID");
+    followClient();
     manager_.followService(
         sessionManager::service, [this] { registerClient(); }, [this] { client_.clear(); });
     logind_.followService(
@@ -40,22 +41,13 @@ SessionEnd::~SessionEnd() {
     }
 }
 
-void SessionEnd::registerClient() {
-    manager_.call({sessionManager::service, sessionManager::path, sessionManager::service,
-                   QStringLiteral("RegisterClient")},
-                  {ownName::service, startupID_}, [this](const QDBusMessage& reply) {
-                      if (reply.type() == QDBusMessage::ReplyMessage) {
-                          followClient(qvariant_cast<QDBusObjectPath>(reply.arguments().value(0)).path());
-                      }
-                  });
-}
-
-void SessionEnd::followClient(const QString& path) {
-    client_ = path;
-    const auto follow = [&](const char* member, std::function<void()> react) {
-        manager_.onSignal({path, clientInterface, QString::fromLatin1(member)},
-                          [this, path, react = std::move(react)](const QDBusMessage& message) {
-                              if (path == client_ && manager_.isOwner(sessionManager::service, message)) {
+void SessionEnd::followClient() {
+    // For any object: the manager may ask the moment it has registered us, and says only then which one is ours.
+    const auto follow = [this](const char* member, std::function<void()> react) {
+        manager_.onSignal({QString(), clientInterface, QString::fromLatin1(member)},
+                          [this, react = std::move(react)](const QDBusMessage& message) {
+                              const bool isOurs = message.path() == client_;
+                              if (isOurs && manager_.isOwner(sessionManager::service, message)) {
                                   react();
                               }
                           });
@@ -66,6 +58,14 @@ void SessionEnd::followClient(const QString& path) {
         answer();
     });
     follow("Stop", [this] { ending_(); });
+}
+
+void SessionEnd::registerClient() {
+    const BusMethod method = {sessionManager::service, sessionManager::path, sessionManager::service,
+                              QStringLiteral("RegisterClient")};
+    manager_.call(method, {ownName::service, startupID_}, [this](const QDBusMessage& reply) {
+        client_ = qvariant_cast<QDBusObjectPath>(reply.arguments().value(0)).path();
+    });
 }
 
 void SessionEnd::answer() {

@@ -15,7 +15,7 @@ public:
 
 private:
     void registerClient();
-    void followClient(const QString& path);
+    void followClient();
     void answer();
 
     BusLink manager_;
