@@ -13,8 +13,9 @@ using Environment = std::map<std::string, std::string>;
 /// A real program that a test needs, in a process group of its own that ends with this object.
 class LabProcess {
 public:
-    /// Begins it at once. Its standard output can be read, its standard error goes to `<logFolder>/<name>.log` or
-    /// nowhere. `keepOpen` are descriptors that it inherits under the same numbers.
+    /// Begins it at once. Its standard output can be read, its standard error goes to
+    /// `<logFolder>/<name>.log` or nowhere. `keepOpen` are descriptors that it inherits under the same
+    /// numbers.
     explicit LabProcess(const std::vector<std::string>& command, const Environment& environment = {},
                         const std::string& logFolder = {}, const std::vector<int>& keepOpen = {});
     ~LabProcess();
@@ -32,7 +33,8 @@ public:
     void writeLine(const std::string& line);
     void signal(int number) const;
 
-    /// Waits for its end; absent when it hasn't ended by then. The exit status, or 128 and the signal's number.
+    /// Waits for its end; absent when it hasn't ended by then. The exit status, or 128 and the signal's
+    /// number.
     std::optional<int> wait(double seconds = 10);
 
     /// Asks it to end, and makes it end after two seconds.

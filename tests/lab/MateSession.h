@@ -7,7 +7,8 @@
 
 namespace quietlark::lab {
 
-/// The session manager of MATE with nothing to start, on a display of its own; needs `mate-session` and `Xvfb`.
+/// The session manager of MATE with nothing to start, on a display of its own; needs `mate-session` and
+/// `Xvfb`.
 class MateSession {
 public:
     /// Comes back when the manager answers on the bus.

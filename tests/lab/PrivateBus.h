@@ -27,8 +27,8 @@ public:
     void freeze() const { daemon_->signal(SIGSTOP); }
     void thaw() const { daemon_->signal(SIGCONT); }
 
-    /// Calls a method by dbus-send and waits for its answer: `member` with its interface, arguments as dbus-send
-    /// writes them. The printed answer; empty on an error.
+    /// Calls a method by dbus-send and waits for its answer: `member` with its interface, arguments as dbus-
+    /// send writes them. The printed answer; empty on an error.
     std::string call(const std::string& service, const std::string& path, const std::string& member,
                      const std::vector<std::string>& arguments = {}) const;
 

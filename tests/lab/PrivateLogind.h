@@ -8,8 +8,8 @@
 
 namespace quietlark::lab {
 
-/// The real systemd-logind on a private system bus, with one session. It sees a `/run` and a `/sys/power` of its
-/// own, so that nothing of the machine is touched and a suspend only says that it happens.
+/// The real systemd-logind on a private system bus, with one session. It sees a `/run` and a `/sys/power` of
+/// its own, so that nothing of the machine is touched and a suspend only says that it happens.
 class PrivateLogind {
 public:
     /// Why it can't be had on this machine; empty when it can.

@@ -51,8 +51,8 @@ protected:
     /// The services on `session` and, where given, on a system bus.
     void makeServices(const lab::PrivateBus* system = nullptr);
 
-    /// Refreshes as the program does, each time a second of its clock later, and reads everything. Fails where one
-    /// such round takes as long as a person would notice.
+    /// Refreshes as the program does, each time a second of its clock later, and reads everything. Fails
+    /// where one such round takes as long as a person would notice.
     void refresh();
 
     /// Refreshes and runs the event loop until the condition holds.

@@ -28,8 +28,8 @@ QString nextConnectionName() {
 
 } // namespace
 
-/// A daemon that doesn't answer its greeting holds whoever connects for as long as it likes, so that is done on a
-/// thread of its own.
+/// A daemon that doesn't answer its greeting holds whoever connects for as long as it likes, so that is done
+/// on a thread of its own.
 struct Bus::Attempt {
     std::mutex mutex;
     std::condition_variable changed;
@@ -124,7 +124,8 @@ void Bus::tell(std::function<void()> Observer::*what) {
 
 void Bus::attach(Subscription& subscription) {
     const BusSignal& signal = subscription.signal;
-    // A service named here would be asked for at once, and waited for: senders are told apart on arrival instead.
+    // A service named here would be asked for at once, and waited for: senders are told apart on arrival
+    // instead.
     connection_.connect(QString(), signal.path, signal.interface, signal.member, signal.firstArguments,
                         QString(), subscription.receiver.get(), SignalReceiver::slot());
 }

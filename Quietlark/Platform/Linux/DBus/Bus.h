@@ -20,8 +20,8 @@ struct BusSignal {
     QStringList firstArguments = {}; ///< only signals that begin with these
 };
 
-/// One connection to a message bus, looked for again when it is lost. No call of it waits for the bus, but for
-/// `waitUntilConnected` and `flush`. Main thread only.
+/// One connection to a message bus, looked for again when it is lost. No call of it waits for the bus, but
+/// for `waitUntilConnected` and `flush`. Main thread only.
 class Bus {
 public:
     /// An empty address is a bus that never comes.

@@ -51,8 +51,8 @@ void BusCopyNotice::observeActivation(std::function<void()> activated) {
 void BusCopyNotice::appear() {
     constexpr unsigned doNotQueue = 4;
     buses_.session->connection().registerVirtualObject(ownName::path, application_.get());
-    // The desktop may call as soon as the name is ours, so the object stands before that. Where another copy has
-    // the name, that one is activated.
+    // The desktop may call as soon as the name is ours, so the object stands before that. Where another copy
+    // has the name, that one is activated.
     link_.call({QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
                 QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName")},
                {ownName::service, doNotQueue}, [](const QDBusMessage&) {});

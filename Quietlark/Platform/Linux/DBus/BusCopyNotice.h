@@ -8,8 +8,8 @@
 
 namespace quietlark {
 
-/// Copies of this program reach each other by a signal on the session bus; the desktop reaches the one that owns
-/// the well-known name.
+/// Copies of this program reach each other by a signal on the session bus; the desktop reaches the one that
+/// owns the well-known name.
 class BusCopyNotice : public CopyNotice {
 public:
     explicit BusCopyNotice(const Buses& buses) : buses_(buses), link_(buses.session) {}

@@ -26,8 +26,8 @@ struct BusServices {
     std::function<std::optional<double>()> mutterIdle;
 };
 
-/// On the buses that the environment names. Needs the application object, and waits for nothing: `session` and
-/// `sleepHolders` find the buses in their `refresh`. The loop and the identities must outlive the result;
+/// On the buses that the environment names. Needs the application object, and waits for nothing: `session`
+/// and `sleepHolders` find the buses in their `refresh`. The loop and the identities must outlive the result;
 /// `displaysAsleep` tells of displays that no bus tells of, and may be empty.
 BusServices makeBusServices(MainLoop& loop, AppIdentity& identity,
                             std::function<std::optional<bool>()> displaysAsleep);

@@ -9,8 +9,8 @@
 
 namespace quietlark {
 
-/// The session as logind, the screen savers and GNOME's display service tell it. Each tells for itself; the screen
-/// is locked while any of them says so.
+/// The session as logind, the screen savers and GNOME's display service tell it. Each tells for itself; the
+/// screen is locked while any of them says so.
 class BusSessionWatch : public SessionWatch {
 public:
     /// `displaysAsleep` is asked once a refresh, for desktops that don't tell it on the bus; it may be empty.

@@ -8,8 +8,8 @@
 
 namespace quietlark {
 
-/// Everyone who keeps the display awake, from all the services that take such wishes. What one program asked of
-/// several services for the same reason stands there once; this program's own wishes are left out.
+/// Everyone who keeps the display awake, from all the services that take such wishes. What one program asked
+/// of several services for the same reason stands there once; this program's own wishes are left out.
 class BusSleepHolders : public SleepHolders {
 public:
     /// `identity` must outlive it.

@@ -7,8 +7,8 @@
 
 namespace quietlark {
 
-/// How long nobody has touched the machine, as GNOME's compositor tells it: it says when idleness begins and when
-/// it ends, so that nobody asks in between.
+/// How long nobody has touched the machine, as GNOME's compositor tells it: it says when idleness begins and
+/// when it ends, so that nobody asks in between.
 class MutterIdleMonitor {
 public:
     MutterIdleMonitor(MainLoop& loop, std::shared_ptr<Bus> session);

@@ -5,7 +5,8 @@
 
 namespace quietlark {
 
-/// A service of the session bus that lists its holds in one answer, by the names that programs gave themselves.
+/// A service of the session bus that lists its holds in one answer, by the names that programs gave
+/// themselves.
 class NamedHolds : public HoldSource {
 public:
     struct Service {

@@ -6,7 +6,8 @@
 
 namespace quietlark {
 
-/// The desktops' screen savers. One that is active counts as a lock even where it doesn't lock: nobody is there.
+/// The desktops' screen savers. One that is active counts as a lock even where it doesn't lock: nobody is
+/// there.
 class ScreenSavers {
 public:
     explicit ScreenSavers(std::shared_ptr<Bus> session);

@@ -42,7 +42,8 @@ SessionEnd::~SessionEnd() {
 }
 
 void SessionEnd::followClient() {
-    // For any object: the manager may ask the moment it has registered us, and says only then which one is ours.
+    // For any object: the manager may ask the moment it has registered us, and says only then which one is
+    // ours.
     const auto follow = [this](const char* member, std::function<void()> react) {
         manager_.onSignal({QString(), clientInterface, QString::fromLatin1(member)},
                           [this, react = std::move(react)](const QDBusMessage& message) {

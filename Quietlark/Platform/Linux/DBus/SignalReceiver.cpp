@@ -8,8 +8,8 @@ namespace quietlark {
 
 namespace {
 
-// The description of a class with the one slot `received(QDBusMessage)`, as Qt 6 lays it out. Later versions of
-// Qt 6 read this revision too.
+// The description of a class with the one slot `received(QDBusMessage)`, as Qt 6 lays it out. Later versions
+// of Qt 6 read this revision too.
 struct Names {
     std::array<unsigned, 10> offsetsAndSizes;
     char className[15];

@@ -7,8 +7,8 @@
 
 namespace quietlark {
 
-/// Takes a D-Bus signal into a function. QtDBus connects signals to slots by name only; this is the one object
-/// that has such a slot, so that everything else can follow signals with functions.
+/// Takes a D-Bus signal into a function. QtDBus connects signals to slots by name only; this is the one
+/// object that has such a slot, so that everything else can follow signals with functions.
 class SignalReceiver : public QObject {
 public:
     using Handler = std::function<void(const QDBusMessage&)>;
