@@ -1,6 +1,7 @@
 #include "Quietlark/AppDelegate.h"
 
 #include "Quietlark/Platform/Linux/LinuxPlatform.h"
+#include "Quietlark/SystemCalendar.h"
 #include "WumbleCore/Storage/DataFolderLock.h"
 #include "WumbleCore/Storage/Storage.h"
 
@@ -46,7 +47,7 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                       .platform = platform_,
                       .sounds = &sounds_,
                       .loginItem = platform_.loginItem.get(),
-                      .calendar = wumble::Calendar()}),
+                      .calendar = systemCalendar()}),
       termination_([] { QCoreApplication::quit(); }) {
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });

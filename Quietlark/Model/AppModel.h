@@ -214,6 +214,7 @@ private:
 
     // Warnings.
     void headsUpDue();
+    void giveHeadsUp();
     void showHeadsUp();
     void hideHeadsUp();
     void showCountdown(bool show);

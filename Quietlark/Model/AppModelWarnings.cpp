@@ -24,6 +24,10 @@ void AppModel::headsUpDue() {
         headsUpPending_ = true;
         return;
     }
+    giveHeadsUp();
+}
+
+void AppModel::giveHeadsUp() {
     showHeadsUp();
     if (state_.settings.value().alertSoundsEnabled) {
         play(wumble::Cue::headsUp, headsUpVolume);
@@ -34,16 +38,13 @@ void AppModel::popoverDidClose() {
     if (!std::exchange(headsUpPending_, false)) {
         return;
     }
-    const auto& settings = state_.settings.value();
+    const double countdown = state_.settings.value().countdownDuration;
     if (hidesWarnings() || !shouldShowHeadsUp() ||
-        settings.countdownDuration + timeForHeadsUp >= state_.secondsUntilBreak.value()) {
+        countdown + timeForHeadsUp >= state_.secondsUntilBreak.value()) {
         return;
     }
     takeTime();
-    showHeadsUp();
-    if (settings.alertSoundsEnabled) {
-        play(wumble::Cue::headsUp, headsUpVolume);
-    }
+    giveHeadsUp();
 }
 
 bool AppModel::isPopoverShown() const {
@@ -135,11 +136,12 @@ void AppModel::noticeDictation() {
     }
     services_.platform.microphone->refresh(services_.mainLoop.uptime());
     detector_.refreshDictation(state_.settings.value());
-    auto status = state_.detectorStatus.value();
     const bool isDictating = detector_.status().dictating;
-    if (isDictating == std::exchange(status.dictating, isDictating)) {
+    if (isDictating == state_.detectorStatus.value().dictating) {
         return;
     }
+    auto status = state_.detectorStatus.value();
+    status.dictating = isDictating;
     state_.detectorStatus = std::move(status);
     if (isDictating && !engine_.typingHoldSpent()) {
         state_.typingNow = true;

@@ -66,7 +66,7 @@ struct Calendar::Zone {
     }
 };
 
-Calendar::Calendar() : Calendar(*make("Etc/UTC", "en_US", 2)) {}
+Calendar::Calendar() : Calendar(*make("UTC", "en_US", 2)) {}
 
 Calendar::Calendar(std::shared_ptr<const Zone> zone, int firstWeekday)
     : zone_(std::move(zone)), firstWeekday_(firstWeekday) {}

@@ -103,7 +103,7 @@ struct HeldCase {
 };
 
 TEST(BreakRoad, aRevealWaitsForThePersonNotForTheUnlockedScreen) {
-    for (const auto& [away, replays] : {HeldCase{5, false}, HeldCase{60, true}}) {
+    for (const auto& [away, replays] : {HeldCase{5, false}, HeldCase{6, true}, HeldCase{60, true}}) {
         ModelDriver driver;
         driver.model().startBreak(wumble::BreakKind::longBreak, std::nullopt);
         EXPECT_TRUE(driver.desktop.assertionHeld);

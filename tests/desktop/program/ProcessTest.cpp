@@ -60,6 +60,17 @@ TEST(Process, savesWhenItIsAskedToEnd) {
     }
 }
 
+TEST(Process, countsTheDaysOfThePlaceWhereItRuns) {
+    std::set<std::string> days;
+    for (const char* zone : {"Pacific/Kiritimati", "Pacific/Pago_Pago"}) { // more than a day apart
+        const ProgramHome home;
+        const auto program = home.start({}, {{"TZ", zone}});
+        ASSERT_TRUE(spinUntil([&] { return hasStarted(home); }));
+        days.insert(wumble::Storage(home.data()).loadLife().days.begin()->first);
+    }
+    EXPECT_EQ(days.size(), 2U);
+}
+
 TEST(Process, runsWithoutAnyServiceAndInAFolderThatCannotBeWritten) {
     const ProgramHome home;
     const auto program = home.start({}, {{"WUMBLE_DATA_DIR", "/proc/nowhere"}});
