@@ -64,7 +64,7 @@ void drawZzz(const EffectPainter& effects, double phase) {
     for (const double later : {0.0, 0.33, 0.66}) {
         const double p = part(phase, later);
         effects.lined(sleepZ, QColor::fromRgb(0x8E9BD8), 4.6,
-                      {{196 + 46 * p + 4 * wave(p, 0.8), 100 - 78 * p},
+                      {{198 + 46 * p + 4 * wave(p, 0.8), 104 - 92 * p},
                        mix(0.6, 1.25, smooth(p)),
                        8 - 14 * p,
                        presence(p)});

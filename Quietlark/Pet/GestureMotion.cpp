@@ -22,7 +22,7 @@ Motion squashed(double up) { return {.across = 1 / std::sqrt(up), .up = up}; }
 Motion hop(double t) {
     Motion pose = squashed(along(
         {{0, 1}, {0.16, 0.84}, {0.3, 1.1}, {0.45, 1.03}, {0.6, 1.05}, {0.7, 0.84}, {0.84, 1.05}, {1, 1}}, t));
-    pose.offset.y = along({{0.18, 0}, {0.44, -44}, {0.5, -44}, {0.66, 0}}, t);
+    pose.offset.y = along({{0.18, 0}, {0.44, -32}, {0.5, -32}, {0.66, 0}}, t);
     return pose;
 }
 

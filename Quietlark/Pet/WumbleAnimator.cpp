@@ -219,7 +219,7 @@ WumblePose sittingUp(const Moment& moment) {
     pose.tall = Choreography::sitUp(levels, moment.elapsed);
     pose.lean = Choreography::sitUp(slump, moment.elapsed);
     pose.lids =
-        std::max(blink(moment.t), 0.5 * Choreography::sitUp(std::array{1.0, 0.6, 0.2, 0.0}, moment.elapsed));
+        std::max(blink(moment.t), 0.4 * Choreography::sitUp(std::array{1.0, 0.6, 0.2, 0.0}, moment.elapsed));
     return pose;
 }
 

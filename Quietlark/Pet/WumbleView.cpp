@@ -97,6 +97,11 @@ void WumbleView::setFollowsPointer(bool follows) { doing_.gazes = follows; }
 void WumbleView::setGaze(std::optional<wumble::Point> gaze) { gaze_ = gaze; }
 void WumbleView::setSticker(SoftWumble::Sticker sticker) { sticker_ = sticker; }
 
+void WumbleView::setRoom(double room) {
+    room_ = std::clamp(room, 0.0, 0.45);
+    update();
+}
+
 void WumbleView::setPokable(bool pokable) {
     pokable_ = pokable;
     setFocusPolicy(pokable ? Qt::TabFocus : Qt::NoFocus);
@@ -229,7 +234,9 @@ void WumbleView::hideEvent(QHideEvent*) { frames_.stop(); }
 
 void WumbleView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    SoftWumble::draw(painter, rect(), doing_.day, pose(clock_.now()), sticker_,
+    const double free = room_ * std::min(width(), height());
+    const QRectF place = QRectF(rect()).adjusted(free, free, -free, -free);
+    SoftWumble::draw(painter, place, doing_.day, pose(clock_.now()), sticker_,
                      stickerColours(appearance_, tweaks_));
     if (hasFocus()) {
         painter.setRenderHint(QPainter::Antialiasing);

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::array appIconSizes{16, 22, 24, 32, 48, 64, 128, 256, 512};
 
-/// The pet that stands for the program: a mitarashi with a sprout, glad to see you.
+/// The pet that stands for the program: a sakura with a sprout, glad to see you.
 wumble::WumbleDay mascot() {
     auto day = samplePet(wumble::WumbleBase::sakura, 5);
     day.traits.eyes = wumble::WumbleEyes::round;

@@ -50,11 +50,12 @@ inline constexpr Art dizzyEye{"M.5 0C1.8-.8 1.2-3-.8-2.8C-3.8-2.6-4 1.6-1.8 3C1.
 
 inline constexpr Art curiousBrows{"M90 150.5C94 146.8 100 146.4 104.5 149M164 153C168 151 174 151 178 153.5"};
 inline constexpr Art focusedBrows{
-    "M89 153.5C94 152.5 100 153.8 104.5 156.5M179 153.5C174 152.5 168 153.8 163.5 156.5"};
+    "M90 152.5C94.5 151 100 151.6 104.5 153.8M178 152.5C173.5 151 168 151.6 163.5 153.8"};
 inline constexpr Art worriedBrows{
     "M89 154.5C93 151 98 149.5 103 149.8M179 154.5C175 151 170 149.5 165 149.8"};
 
 inline constexpr Art smileMouth{"M126 175.5C129 181.5 139 181.5 142 175.5"};
+inline constexpr Art smallSmile{"M129 176C130.8 179.4 137.2 179.4 139 176"};
 inline constexpr Art catMouth{"M122 175C123.5 180.5 132 181.2 134 175.5C136 181.2 144.5 180.5 146 175"};
 inline constexpr Art flatMouth{"M127 178Q133 174 139 178"};
 inline constexpr Art wavyMouth{"M123.5 178C126 174.2 129 174.6 131.5 177.4C134 180.2 137 180.2 139.5 "
