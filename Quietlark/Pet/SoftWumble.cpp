@@ -127,6 +127,9 @@ void drawBelongings(QPainter& painter, const Stage& stage, const Belongings& thi
 
 void draw(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day, const WumblePose& pose,
           Sticker sticker, const Tweaks& tweaks) {
+    if (!place.isValid()) {
+        return;
+    }
     const PainterScope scope(painter);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setTransform(boxIn(place), true);

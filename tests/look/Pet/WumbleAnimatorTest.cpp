@@ -29,7 +29,7 @@ void forEachMood(auto&& check) {
 
 TEST(WumbleAnimator, everyMoodIsAliveAndNoneJumps) {
     constexpr double frame = 1.0 / 240;
-    constexpr double largestStep = 5; ///< units of the box that the top may go in a frame
+    constexpr double largestStep = 1.5; ///< units of the box that the top may go in a frame
     const auto day = petOf(wumble::WumbleBase::yuzu);
     forEachMood([&](WumbleMood mood) {
         bool moved = false;
@@ -45,10 +45,7 @@ TEST(WumbleAnimator, everyMoodIsAliveAndNoneJumps) {
 }
 
 TEST(WumbleAnimator, reducedMotionIsStillButNotDead) {
-    forEachMood([](WumbleMood mood) {
-        EXPECT_EQ(poseOf(mood, 0, true), poseOf(mood, 7.3, true));
-        EXPECT_EQ(poseOf(mood, 0, true).gesture, WumbleGesture::still);
-    });
+    forEachMood([](WumbleMood mood) { EXPECT_EQ(poseOf(mood, 0, true), poseOf(mood, 7.3, true)); });
     EXPECT_TRUE(poseOf(WumbleMood::sleeping, 1, true).zzz);
     EXPECT_TRUE(poseOf(WumbleMood::celebrate, 1, true).sparkles);
     EXPECT_DOUBLE_EQ(poseOf(WumbleMood::pulled, 1, true).pull, 0.85);

@@ -3,6 +3,7 @@
 #include "Quietlark/Pet/WumbleAnimator.h"
 #include "tests/look/Drawn.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <gtest/gtest.h>
