@@ -49,45 +49,48 @@ constexpr std::array thaiTeaMarks{Layer{thaiTeaRibbon, 0xFFF0DC}};
 struct Marks {
     WumbleBase value;
     Layers layers;
+    Texture texture = Texture::within;
 };
 
 constexpr std::array<Marks, 26> marks{{
     {WumbleBase::plain, {}},
-    {WumbleBase::sakura, sakuraMarks},
-    {WumbleBase::kinako, kinakoMarks},
-    {WumbleBase::isobe, isobeMarks},
+    {WumbleBase::sakura, sakuraMarks, Texture::overTheEdge},
+    {WumbleBase::kinako, kinakoMarks, Texture::overTheEdge},
+    {WumbleBase::isobe, isobeMarks, Texture::overTheEdge},
     {WumbleBase::yuzu, yuzuMarks},
     {WumbleBase::azuki, azukiMarks},
-    {WumbleBase::imo, imoMarks},
+    {WumbleBase::imo, imoMarks, Texture::overTheEdge},
     {WumbleBase::yomogi, yomogiMarks},
     {WumbleBase::ramune, ramuneMarks},
     {WumbleBase::hojicha, hojichaMarks},
     {WumbleBase::mame, mameMarks},
-    {WumbleBase::kuri, kuriMarks},
+    {WumbleBase::kuri, kuriMarks, Texture::overTheEdge},
     {WumbleBase::strawberry, strawberryMarks},
-    {WumbleBase::mitarashi, mitarashiMarks},
-    {WumbleBase::hanami, hanamiMarks},
+    {WumbleBase::mitarashi, mitarashiMarks, Texture::overTheEdge},
+    {WumbleBase::hanami, hanamiMarks, Texture::overTheEdge},
     {WumbleBase::blackSesame, sesameMarks},
-    {WumbleBase::peach, peachMarks},
-    {WumbleBase::matcha, matchaMarks},
+    {WumbleBase::peach, peachMarks, Texture::overTheEdge},
+    {WumbleBase::matcha, matchaMarks, Texture::overTheEdge},
     {WumbleBase::vanilla, vanillaMarks},
-    {WumbleBase::taro, taroMarks},
+    {WumbleBase::taro, taroMarks, Texture::overTheEdge},
     {WumbleBase::pandan, pandanMarks},
-    {WumbleBase::coconut, coconutMarks},
-    {WumbleBase::mango, mangoMarks},
+    {WumbleBase::coconut, coconutMarks, Texture::overTheEdge},
+    {WumbleBase::mango, mangoMarks, Texture::overTheEdge},
     {WumbleBase::blueberry, blueberryMarks},
     {WumbleBase::cocoa, cocoaMarks},
-    {WumbleBase::thaiTea, thaiTeaMarks},
+    {WumbleBase::thaiTea, thaiTeaMarks, Texture::overTheEdge},
 }};
 static_assert(wumble::isInOrder(marks));
 
 } // namespace
 
-void drawTexture(QPainter& painter, const Stage& stage) {
+Texture drawTexture(QPainter& painter, const Stage& stage) {
     const PainterScope scope(painter);
-    for (const Layer& layer : wumble::rowOf(marks, stage.day.base).layers) {
+    const auto& row = wumble::rowOf(marks, stage.day.base);
+    for (const Layer& layer : row.layers) {
         drawLayer(painter, stage, layer, stage.soft.bendy(layer.art.path()));
     }
+    return row.texture;
 }
 
 } // namespace quietlark::SoftWumble

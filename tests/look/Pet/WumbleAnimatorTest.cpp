@@ -29,7 +29,7 @@ void forEachMood(auto&& check) {
 
 TEST(WumbleAnimator, everyMoodIsAliveAndNoneJumps) {
     constexpr double frame = 1.0 / 240;
-    constexpr double largestStep = 1.5; ///< units of the box that the top may go in a frame
+    constexpr double largestStep = 2; ///< units of the box that the top may go in a frame
     const auto day = petOf(wumble::WumbleBase::yuzu);
     forEachMood([&](WumbleMood mood) {
         bool moved = false;
