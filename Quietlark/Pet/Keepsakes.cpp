@@ -42,7 +42,7 @@ constexpr std::array darumaLayers{edge(daruma, 0xDB463F),           fill(darumaS
 constexpr std::array balloonLayers{line(balloonString, 0x5B4A4E, 2.6), edge(balloon, 0xF2637A),
                                    edge(balloonKnot, 0xD2475F), line(balloonShine, 0xFFC2CB, 5)};
 
-constexpr QPointF belly{133, 208};
+constexpr QPointF belly{133, 210};
 
 struct Hold {
     WumbleKeepsake value;
@@ -54,16 +54,16 @@ struct Hold {
 };
 
 constexpr std::array<Hold, 11> belongings{{
-    {WumbleKeepsake::book, bookLayers, {0, 2}, -3, 1.15, 33},
-    {WumbleKeepsake::tea, teaLayers, {0, 3}, 3, 1.15, 27},
-    {WumbleKeepsake::heart, heartLayers, {0, 3}, -5, 1.2, 26},
-    {WumbleKeepsake::plant, plantLayers, {50, -10}, 5, 1.05, -30},
-    {WumbleKeepsake::crane, craneLayers, {0, 4}, -4, 1.1, 30},
-    {WumbleKeepsake::pencil, pencilLayers, {46, -6}, 24, 1.05, 14},
-    {WumbleKeepsake::lantern, lanternLayers, {50, 2}, 6, 1.1, 4},
-    {WumbleKeepsake::dango, dangoLayers, {48, -6}, 24, 1.1, 12},
-    {WumbleKeepsake::onigiri, onigiriLayers, {0, 2}, 4, 1.15, 29},
-    {WumbleKeepsake::daruma, darumaLayers, {0, 1}, -3, 1.08, 29},
+    {WumbleKeepsake::book, bookLayers, {0, 4}, -3, 1.05, 31},
+    {WumbleKeepsake::tea, teaLayers, {0, 4}, 3, 1.08, 26},
+    {WumbleKeepsake::heart, heartLayers, {0, 3}, -5, 1.15, 25},
+    {WumbleKeepsake::plant, plantLayers, {72, -3}, 5, 0.95, -34},
+    {WumbleKeepsake::crane, craneLayers, {0, 5}, -4, 1.05, 29},
+    {WumbleKeepsake::pencil, pencilLayers, {62, -4}, 24, 1.0, -8},
+    {WumbleKeepsake::lantern, lanternLayers, {64, 2}, 6, 1.05, -20},
+    {WumbleKeepsake::dango, dangoLayers, {62, -4}, 24, 1.05, -4},
+    {WumbleKeepsake::onigiri, onigiriLayers, {0, 5}, 4, 1.05, 27},
+    {WumbleKeepsake::daruma, darumaLayers, {0, 6}, -3, 0.96, 27},
     {WumbleKeepsake::balloon, balloonLayers, {0, 0}, 0, 1, 0},
 }};
 static_assert(wumble::isInOrder(belongings));
