@@ -54,16 +54,16 @@ struct Hold {
 };
 
 constexpr std::array<Hold, 11> belongings{{
-    {WumbleKeepsake::book, bookLayers, {0, 4}, -3, 1.05, 31},
-    {WumbleKeepsake::tea, teaLayers, {0, 4}, 3, 1.08, 26},
-    {WumbleKeepsake::heart, heartLayers, {0, 3}, -5, 1.15, 25},
+    {WumbleKeepsake::book, bookLayers, {0, 4}, -3, 1.12, 39},
+    {WumbleKeepsake::tea, teaLayers, {0, 4}, 3, 1.12, 33},
+    {WumbleKeepsake::heart, heartLayers, {0, 3}, -5, 1.2, 31},
     {WumbleKeepsake::plant, plantLayers, {72, -3}, 5, 0.95, -34},
-    {WumbleKeepsake::crane, craneLayers, {0, 5}, -4, 1.05, 29},
+    {WumbleKeepsake::crane, craneLayers, {0, 5}, -4, 1.1, 37},
     {WumbleKeepsake::pencil, pencilLayers, {62, -4}, 24, 1.0, -8},
     {WumbleKeepsake::lantern, lanternLayers, {64, 2}, 6, 1.05, -20},
     {WumbleKeepsake::dango, dangoLayers, {62, -4}, 24, 1.05, -4},
-    {WumbleKeepsake::onigiri, onigiriLayers, {0, 5}, 4, 1.05, 27},
-    {WumbleKeepsake::daruma, darumaLayers, {0, 6}, -3, 0.96, 27},
+    {WumbleKeepsake::onigiri, onigiriLayers, {0, 5}, 4, 1.08, 36},
+    {WumbleKeepsake::daruma, darumaLayers, {0, 6}, -3, 1, 35},
     {WumbleKeepsake::balloon, balloonLayers, {0, 0}, 0, 1, 0},
 }};
 static_assert(wumble::isInOrder(belongings));

@@ -122,6 +122,17 @@ void drawIcon(QPainter& painter, const Key& key) {
 
 } // namespace
 
+std::vector<Mood> allMoods() {
+    std::vector<Mood> moods;
+    for (int sleepiness = 0; sleepiness < steps; ++sleepiness) {
+        moods.emplace_back(mood::Awake{sleepiness});
+    }
+    moods.emplace_back(mood::Due{});
+    moods.emplace_back(mood::OnBreak{});
+    moods.emplace_back(mood::Paused{});
+    return moods;
+}
+
 QImage image(const Key& key, int pixels) {
     thread_local std::map<std::pair<Key, int>, QImage> drawn;
     const int size = std::max(pixels, 1);

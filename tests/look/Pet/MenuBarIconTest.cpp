@@ -7,19 +7,8 @@
 namespace quietlark {
 namespace {
 
-std::vector<MenuBarIcon::Mood> allMoods() {
-    std::vector<MenuBarIcon::Mood> moods;
-    for (int sleepiness = 0; sleepiness < 6; ++sleepiness) {
-        moods.emplace_back(MenuBarIcon::mood::Awake{sleepiness});
-    }
-    moods.emplace_back(MenuBarIcon::mood::Due{});
-    moods.emplace_back(MenuBarIcon::mood::OnBreak{});
-    moods.emplace_back(MenuBarIcon::mood::Paused{});
-    return moods;
-}
-
 TEST(MenuBarIcon, everyMoodIsToldFromEveryOtherAtEverySize) {
-    const auto moods = allMoods();
+    const auto moods = MenuBarIcon::allMoods();
     for (const int size : {16, 22, 24}) {
         for (std::size_t one = 0; one < moods.size(); ++one) {
             for (std::size_t other = 0; other < one; ++other) {
