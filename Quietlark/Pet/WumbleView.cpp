@@ -17,7 +17,9 @@ namespace {
 using wumble::WumbleGesture;
 using wumble::WumbleJelly;
 
-constexpr int frameInterval = 16;  ///< milliseconds
+constexpr int livelyFrames = 16;   ///< milliseconds from frame to frame while something quick goes on
+constexpr int calmFrames = 33;     ///< and while it only breathes
+constexpr double freshMood = 2.5;  ///< seconds in which a new mood may be quick
 constexpr double pullLength = 0.6; ///< of its width, how far a full pull drags it
 constexpr double firstTouch = 4;   ///< points that a hand may tremble in a click
 constexpr double settled = 1.6;    ///< seconds after which a pull that was let go has died down
@@ -40,7 +42,6 @@ WumbleView::WumbleView(const wumble::WumbleDay& day, QWidget* parent)
     doing_.day = day;
     doing_.moodStart = clock_.now();
     doing_.gazes = true;
-    frames_.setInterval(frameInterval);
     frames_.setTimerType(Qt::PreciseTimer);
     connect(&frames_, &QTimer::timeout, this, [this] { nextFrame(); });
     setFocusPolicy(Qt::TabFocus);
@@ -220,12 +221,25 @@ bool WumbleView::isMoving(double now) const {
     return !appearance_.reduceMotion || changesFace;
 }
 
+bool WumbleView::isLively(double now) const {
+    const bool reacts =
+        doing_.reaction && now < *doing_.reaction + duration(doing_.reactionGesture) + settled;
+    const bool swings = pressedAt_ || (doing_.letGo && now < *doing_.letGo + settled);
+    const bool isLoud =
+        doing_.mood == wumble::WumbleMood::celebrate || doing_.mood == wumble::WumbleMood::demonstrate;
+    return reacts || swings || isLoud || now < doing_.moodStart + freshMood;
+}
+
 /// Draws now, and keeps drawing while it is seen and something moves.
 void WumbleView::nextFrame() {
     update();
-    const bool runs = isVisible() && isMoving(clock_.now());
-    if (runs != frames_.isActive()) {
-        runs ? frames_.start() : frames_.stop();
+    const double now = clock_.now();
+    if (!isVisible() || !isMoving(now)) {
+        return frames_.stop();
+    }
+    const int interval = isLively(now) ? livelyFrames : calmFrames;
+    if (!frames_.isActive() || frames_.interval() != interval) {
+        frames_.start(interval);
     }
 }
 

@@ -73,6 +73,7 @@ private:
     WumblePose firmPose(double now, const Look& pointer, const wumble::WumbleJelly& jelly) const;
     Look pointerLook() const;
     double pulledBy(double now) const;
+    bool isLively(double now) const;
     void say();
     void nextFrame();
 
