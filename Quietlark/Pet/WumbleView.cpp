@@ -227,7 +227,7 @@ bool WumbleView::isLively(double now) const {
     const bool swings = pressedAt_ || (doing_.letGo && now < *doing_.letGo + settled);
     const bool isLoud =
         doing_.mood == wumble::WumbleMood::celebrate || doing_.mood == wumble::WumbleMood::demonstrate;
-    return reacts || swings || isLoud || now < doing_.moodStart + freshMood;
+    return showsGesture_ || reacts || swings || isLoud || now < doing_.moodStart + freshMood;
 }
 
 /// Draws now, and keeps drawing while it is seen and something moves.
@@ -250,8 +250,9 @@ void WumbleView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const double free = room_ * std::min(width(), height());
     const QRectF place = QRectF(rect()).adjusted(free, free, -free, -free);
-    SoftWumble::draw(painter, place, doing_.day, pose(clock_.now()), sticker_,
-                     stickerColours(appearance_, tweaks_));
+    const WumblePose shown = pose(clock_.now());
+    showsGesture_ = shown.gesture != WumbleGesture::still;
+    SoftWumble::draw(painter, place, doing_.day, shown, sticker_, stickerColours(appearance_, tweaks_));
     if (hasFocus()) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(colour(Role::line, appearance_), 2, Qt::DotLine));

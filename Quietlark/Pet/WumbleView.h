@@ -90,6 +90,7 @@ private:
     double pull_ = 0; ///< while it is dragged, -1 to 1; after that what it was when it was let go
     double room_ = 0;
     bool pokable_ = true;
+    bool showsGesture_ = false; ///< in the last frame
     QTimer frames_;
 };
 

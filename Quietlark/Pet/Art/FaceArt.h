@@ -2,7 +2,8 @@
 
 #include "Quietlark/Pet/Art/Art.h"
 
-/// Faces: low, wide, and small. Everything lies at its place in the box; eyes about x 97 and 171, the mouth between.
+/// Faces: low, wide, and small. Everything lies at its place in the box; eyes about x 97 and 171, the mouth
+/// between.
 namespace quietlark::SoftWumble {
 
 inline constexpr double eyeLeft = 97;

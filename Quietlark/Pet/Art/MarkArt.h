@@ -2,7 +2,8 @@
 
 #include "Quietlark/Pet/Art/Art.h"
 
-/// What each flavour has on its dough. At its place in the box; everything is clipped to the body and bends with it.
+/// What each flavour has on its dough. At its place in the box; everything is clipped to the body and bends
+/// with it.
 namespace quietlark::SoftWumble {
 
 inline constexpr Art speckles{
