@@ -22,8 +22,8 @@ constexpr std::array heartLayers{edge(heart, 0xE6516A), line(heartShine, 0xFFB3B
 constexpr std::array plantLayers{line(plantStem, 0x5C8F45, 4), edge(plantLeafA, 0x76B359),
                                  edge(plantLeafB, 0x629E49),   edge(plantLeafC, 0x8BC66B),
                                  edge(plantPot, 0xD37B52),     edge(plantPotRim, 0xE3946B)};
-constexpr std::array craneLayers{edge(craneBody, 0x86B9E6), fill(craneLight, 0xB7D8F4),
-                                 edge(craneHead, 0x6CA3D6), fill(craneBeak, 0xF4B544)};
+constexpr std::array craneLayers{edge(craneBackWing, 0x6CA3D6), edge(craneBody, 0x86B9E6),
+                                 edge(craneHead, 0xF4B544), edge(craneLight, 0xC3E0F7)};
 constexpr std::array pencilLayers{edge(pencilRubber, 0xF48FA0),       edge(pencilWood, 0xF8C644),
                                   line(pencilStripes, 0xE3A52F, 2.4), edge(pencilTip, 0xF3D6A8),
                                   fill(pencilLead, 0x4A4048),         fill(pencilFerrule, 0xB9BDC8)};
@@ -58,7 +58,7 @@ constexpr std::array<Hold, 11> belongings{{
     {WumbleKeepsake::tea, teaLayers, {0, 4}, 3, 1.12, 33},
     {WumbleKeepsake::heart, heartLayers, {0, 3}, -5, 1.2, 31},
     {WumbleKeepsake::plant, plantLayers, {72, -3}, 5, 0.95, -34},
-    {WumbleKeepsake::crane, craneLayers, {0, 5}, -4, 1.1, 37},
+    {WumbleKeepsake::crane, craneLayers, {0, 4}, -4, 1.12, 42},
     {WumbleKeepsake::pencil, pencilLayers, {62, -4}, 24, 1.0, -8},
     {WumbleKeepsake::lantern, lanternLayers, {64, 2}, 6, 1.05, -20},
     {WumbleKeepsake::dango, dangoLayers, {62, -4}, 24, 1.05, -4},
