@@ -112,6 +112,12 @@ void drawNotes(const EffectPainter& effects, double phase) {
     effects.filled(noteBeam, QColor::fromRgb(0x6E62C4), second);
 }
 
+/// Two strokes of air beside a paw that waves.
+void drawSwoosh(const EffectPainter& effects, const Stage& stage) {
+    const double shown = swell(stage.pose.progress);
+    effects.lined(swoosh, stage.colours.edge(), 3, {{247, 116}, 0.8, 6, shown});
+}
+
 } // namespace
 
 void drawEffects(QPainter& painter, const Stage& stage) {
@@ -128,6 +134,9 @@ void drawEffects(QPainter& painter, const Stage& stage) {
     }
     if (pose.hum) {
         drawNotes(effects, *pose.hum);
+    }
+    if (pose.gesture == wumble::WumbleGesture::wave && stage.shows(wumble::RevealStep::arms)) {
+        drawSwoosh(effects, stage);
     }
 }
 

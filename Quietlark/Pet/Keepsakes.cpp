@@ -30,7 +30,7 @@ constexpr std::array pencilLayers{edge(pencilRubber, 0xF48FA0),       edge(penci
 constexpr std::array lanternLayers{line(lanternHandle, 0x5B4034, 3.4), edge(lanternPaper, 0xF0714D),
                                    fill(lanternGlow, 0xFFDD8E), line(lanternBands, 0xCB5236, 2.4),
                                    edge(lanternCaps, 0x5B4034)};
-constexpr std::array dangoLayers{edge(dangoTilt, 0xC99B62), edge(dangoBottom, 0xA6C97F),
+constexpr std::array dangoLayers{edge(dangoStick, 0xC99B62), edge(dangoBottom, 0xA6C97F),
                                  edge(dangoMiddle, 0xFFF7E8), edge(dangoTop, 0xFFA9BA),
                                  line(dangoBalls, 0xFFFFFF, 5, 0.75)};
 constexpr std::array onigiriLayers{edge(onigiri, 0xFFFEFA), line(onigiri, 0xDCD2C2, 2.2),

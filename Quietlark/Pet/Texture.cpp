@@ -35,7 +35,7 @@ constexpr std::array hanamiMarks{Layer{hanamiPink, 0xFBC3CF}, Layer{hanamiGreen,
 constexpr std::array sesameMarks{Layer{sesameSeed, 0x443D45, 5}};
 constexpr std::array peachMarks{soft(peachBlush, 0xFA9684, 0.55), Layer{peachCleft, shade, 4}};
 constexpr std::array matchaMarks{Layer{matchaPowder, 0x7E9F4F}, Layer{matchaDust, 0x7E9F4F, 3.6}};
-constexpr std::array vanillaMarks{Layer{vanillaSeeds, 0x6B5340, 3}};
+constexpr std::array vanillaMarks{Layer{speckles, 0x6B5340, 3}};
 constexpr std::array taroMarks{Layer{taroSwirl, 0xAE8FCC}, Layer{taroSwirlLow, 0xAE8FCC}};
 constexpr std::array pandanMarks{Layer{pandanCrease, 0x6FAA69, 4}};
 constexpr std::array coconutMarks{Layer{coconutShell, 0x94694C}, Layer{coconutFibre, 0x714B34, 2.6},

@@ -41,10 +41,6 @@ inline constexpr Art droopyBowl{"M91.2 164.5C94.5 163.5 100 161.5 103 160C107 16
                                 "C161 164 163 172.6 169.5 172.8C176 173 178.5 168.5 176.8 164.5Z"};
 inline constexpr Art droopyLid{
     "M87.5 165.5C92 164.8 99 161.8 103.5 158.5M180.5 165.5C176 164.8 169 161.8 164.5 158.5"};
-inline constexpr Art halfLids{
-    "M88.5 163.5C93 161.5 101 161.5 105.5 163.5M162.5 163.5C167 161.5 175 161.5 179.5 163.5"};
-inline constexpr Art squeezedEyes{"M90 160.5L103 165.5L90.5 170.5M178 160.5L165 165.5L177.5 170.5"};
-
 /// A spiral around its own origin.
 inline constexpr Art dizzyEye{"M.5 0C1.8-.8 1.2-3-.8-2.8C-3.8-2.6-4 1.6-1.8 3C1.6 5 5.6 2.2 "
                               "5.2-1.6C4.8-5.8.2-7.6-3.2-6.4C-5.4-5.6-6.8-3.8-7.2-1.6"};

@@ -82,9 +82,7 @@ inline constexpr Art lanternCaps{
     "M-15-29L15-29C17-29 17-23 15-23L-15-23C-17-23-17-29-15-29ZM-14 18L14 18C16 18 16 25 14 25L-14 25"
     "C-16 25-16 18-14 18Z"};
 
-inline constexpr Art dangoStick{"M0-48L0 34"};
-
-inline constexpr Art dangoTilt{"M-6-50L6-50L6 36L-6 36Z"};
+inline constexpr Art dangoStick{"M-6-50L6-50L6 36L-6 36Z"};
 
 inline constexpr Art dangoTop{
     "M0-46.5C8.6-46.5 15.5-40 15.5-32C15.5-24 8.6-17.5 0-17.5C-8.6-17.5-15.5-24-15.5-32"
