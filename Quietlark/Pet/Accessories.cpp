@@ -43,8 +43,8 @@ constexpr std::array headphonesLayers{edge(headphoneBand, 0x555B6E), edge(headph
                                       line(headphonePads, 0x555B6E, 6), line(headphoneShine, 0xFFC4AD, 3.4)};
 constexpr std::array sleepMaskLayers{Layer{sleepMaskStrap, 0x55639F, 7, false, 1, true},
                                      edge(sleepMask, 0x7384C8), line(sleepMaskStitches, 0xF3F0FF, 2.8)};
-constexpr std::array bandageLayers{edge(bandage, 0xF0B98D), fill(bandagePad, 0xFBE3CC),
-                                   line(bandageSpot, 0xC98A5D, 2.6)};
+constexpr std::array bandageLayers{edge(bandage, 0xE79A78), fill(bandagePad, 0xFBE3CC),
+                                   line(bandageSpot, 0xA8644A, 2.8)};
 
 /// Where things sit.
 enum class Seat { crest, box, face };

@@ -64,7 +64,7 @@ void drawZzz(const EffectPainter& effects, double phase) {
     for (const double later : {0.0, 0.33, 0.66}) {
         const double p = part(phase, later);
         effects.lined(sleepZ, QColor::fromRgb(0x8E9BD8), 4.6,
-                      {{196 + 46 * p + 4 * wave(p, 0.8), 100 - 78 * p},
+                      {{198 + 46 * p + 4 * wave(p, 0.8), 104 - 92 * p},
                        mix(0.6, 1.25, smooth(p)),
                        8 - 14 * p,
                        presence(p)});
@@ -112,6 +112,12 @@ void drawNotes(const EffectPainter& effects, double phase) {
     effects.filled(noteBeam, QColor::fromRgb(0x6E62C4), second);
 }
 
+/// Two strokes of air beside a paw that waves.
+void drawSwoosh(const EffectPainter& effects, const Stage& stage) {
+    const double shown = swell(stage.pose.progress);
+    effects.lined(swoosh, stage.colours.edge(), 3, {{247, 116}, 0.8, 6, shown});
+}
+
 } // namespace
 
 void drawEffects(QPainter& painter, const Stage& stage) {
@@ -128,6 +134,9 @@ void drawEffects(QPainter& painter, const Stage& stage) {
     }
     if (pose.hum) {
         drawNotes(effects, *pose.hum);
+    }
+    if (pose.gesture == wumble::WumbleGesture::wave && stage.shows(wumble::RevealStep::arms)) {
+        drawSwoosh(effects, stage);
     }
 }
 

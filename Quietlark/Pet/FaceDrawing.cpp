@@ -77,7 +77,7 @@ Features of(WumbleExpression expression) {
     case WumbleExpression::surprised:
         return {
             .eye = surprisedEye, .eyeShine = true, .mouth = tinyMouth, .openMouth = true, .look = {0, -1}};
-    case WumbleExpression::focused: return {.brows = focusedBrows, .mouth = flatMouth};
+    case WumbleExpression::focused: return {.brows = focusedBrows, .mouth = smallSmile};
     case WumbleExpression::wink: return {.mouth = catMouth, .ownLeftEyeOnly = true};
     }
     return {};
@@ -88,7 +88,7 @@ Features of(const Face& face) {
         face, [](const face::Expression& shown) { return of(shown.expression); },
         [](face::Blink) { return Features{.eyes = blinkEyes, .strokedEyes = true}; },
         [](face::Resting) { return Features{.eyes = sleepyEyes, .strokedEyes = true, .mouth = smileMouth}; },
-        [](face::Calm) { return Features{.eyes = blinkEyes, .strokedEyes = true, .mouth = flatMouth}; },
+        [](face::Calm) { return Features{.eyes = blinkEyes, .strokedEyes = true, .mouth = smallSmile}; },
         [](face::Dizzy) { return Features{.eye = dizzyEye, .strokedEyes = true, .mouth = wavyMouth}; });
 }
 
@@ -203,13 +203,14 @@ private:
         QPainterPath open;
         QPainterPath edges;
         for (const double x : middles) {
-            open.moveTo(x - 14, edge);
-            open.quadTo(x, edge + bow, x + 14, edge);
+            const double droop = 2.4 * swell(lids()) * (x > mouthX ? 1 : -1);
+            open.moveTo(x - 14, edge - 2 * droop);
+            open.quadTo(x, edge + bow, x + 14, edge + 2 * droop);
             open.lineTo(x + 14, 20);
             open.lineTo(x - 14, 20);
             open.closeSubpath();
-            edges.moveTo(x - 7.5, edge + bow * 0.3);
-            edges.quadTo(x, edge + bow * 0.8, x + 7.5, edge + bow * 0.3);
+            edges.moveTo(x - 7.5, edge + bow * 0.3 - droop);
+            edges.quadTo(x, edge + bow * 0.8, x + 7.5, edge + bow * 0.3 + droop);
         }
         painter_.fillPath(eyes.intersected(open), stage_.faceInk);
         QPen pen = pen_;

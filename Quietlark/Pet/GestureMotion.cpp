@@ -22,7 +22,7 @@ Motion squashed(double up) { return {.across = 1 / std::sqrt(up), .up = up}; }
 Motion hop(double t) {
     Motion pose = squashed(along(
         {{0, 1}, {0.16, 0.84}, {0.3, 1.1}, {0.45, 1.03}, {0.6, 1.05}, {0.7, 0.84}, {0.84, 1.05}, {1, 1}}, t));
-    pose.offset.y = along({{0.18, 0}, {0.44, -44}, {0.5, -44}, {0.66, 0}}, t);
+    pose.offset.y = along({{0.18, 0}, {0.44, -32}, {0.5, -32}, {0.66, 0}}, t);
     return pose;
 }
 
@@ -125,27 +125,84 @@ Motion nodded(double t) {
 
 Motion atRest(double) { return {}; }
 
+Paws resting(double) { return {}; }
+
+Paws both(PawPose pose) { return {pose, pose}; }
+
+Paws wavingPaw(double t) {
+    const double raised = along({{0.06, 0}, {0.3, 1.06}, {0.38, 1}, {0.74, 1}, {0.96, 0}}, t);
+    const double shake = raised * std::sin(t * 8 * std::numbers::pi);
+    return {{}, {{47 * raised + 6 * shake, -70 * raised}, 22 * raised + 16 * shake}};
+}
+
+Paws thrownPaws(double t) {
+    const double thrown = along({{0.16, 0}, {0.42, 1}, {0.55, 1}, {0.74, 0}}, t);
+    return both({{22 * thrown, -34 * thrown}, 40 * thrown});
+}
+
+Paws raisedPaws(double t) {
+    const double raised = along({{0.14, 0}, {0.44, 1}, {0.66, 1}, {0.88, 0}}, t);
+    return both({{40 * raised, -78 * raised}, 20 * raised});
+}
+
+/// Before the eyes, then away.
+Paws hidingPaws(double t) {
+    const double hidden = along({{0, 0}, {0.22, 1}, {0.36, 1}, {0.56, 0}}, t);
+    return both({{-4 * hidden, -36 * hidden}, -10 * hidden});
+}
+
+Paws foldedPaws(double t) {
+    const double folded = along({{0.06, 0}, {0.4, 1}, {0.64, 1}, {0.9, 0}}, t);
+    return both({{-20 * folded, 2 * folded}, -16 * folded});
+}
+
+Paws brushingPaws(double t) {
+    const double brush = swing(t, 4);
+    return {{{-6 * swell(t), -8 * brush}, -10 * brush}, {{-6 * swell(t), 8 * brush}, 10 * brush}};
+}
+
+Paws gigglingPaws(double t) {
+    const double covered = along({{0, 0}, {0.25, 1}, {0.75, 1}, {1, 0}}, t);
+    return both({{-15 * covered, -10 * covered}, -14 * covered});
+}
+
+Paws okayingPaw(double t) {
+    const double raised = along({{0.06, 0}, {0.34, 1}, {0.72, 1}, {1, 0}}, t);
+    return {{}, {{18 * raised, -26 * raised}, 18 * raised}};
+}
+
+Paws spreadPaws(double t) {
+    const double spread = along({{0.1, 0}, {0.34, 1}, {0.68, 1}, {0.86, 0}}, t);
+    return both({{26 * spread, 4 * spread}, 50 * spread});
+}
+
+Paws swayingPaws(double t) {
+    const double aside = swing(t, 2);
+    return {{{-5 * aside, -3 * aside}, 0}, {{5 * aside, 3 * aside}, 0}};
+}
+
 struct GestureRow {
     WumbleGesture value;
     Motion (*motion)(double progress);
+    Paws (*paws)(double progress) = resting;
 };
 
 constexpr std::array<GestureRow, 16> gestures{{
     {WumbleGesture::still, atRest},
-    {WumbleGesture::wave, waving},
-    {WumbleGesture::hop, hop},
-    {WumbleGesture::bow, bow},
-    {WumbleGesture::sway, swaying},
-    {WumbleGesture::peek, peeking},
-    {WumbleGesture::stretch, stretch},
-    {WumbleGesture::tidy, tidying},
+    {WumbleGesture::wave, waving, wavingPaw},
+    {WumbleGesture::hop, hop, thrownPaws},
+    {WumbleGesture::bow, bow, foldedPaws},
+    {WumbleGesture::sway, swaying, swayingPaws},
+    {WumbleGesture::peek, peeking, hidingPaws},
+    {WumbleGesture::stretch, stretch, raisedPaws},
+    {WumbleGesture::tidy, tidying, brushingPaws},
     {WumbleGesture::boop, booped},
-    {WumbleGesture::giggle, giggling},
+    {WumbleGesture::giggle, giggling, gigglingPaws},
     {WumbleGesture::dizzy, dizzied},
-    {WumbleGesture::okay, okayed},
+    {WumbleGesture::okay, okayed, okayingPaw},
     {WumbleGesture::tap, tapping},
     {WumbleGesture::spin, spinning},
-    {WumbleGesture::flop, flopped},
+    {WumbleGesture::flop, flopped, spreadPaws},
     {WumbleGesture::nod, nodded},
 }};
 static_assert(wumble::isInOrder(gestures));
@@ -169,52 +226,7 @@ Motion motion(WumbleGesture gesture, double progress, const wumble::WumbleTraits
 }
 
 Paws paws(WumbleGesture gesture, double progress) {
-    const double t = clamped(progress);
-    const auto both = [](PawPose pose) { return Paws{pose, pose}; };
-    switch (gesture) {
-    case WumbleGesture::wave: {
-        const double raised = along({{0.06, 0}, {0.3, 1.06}, {0.38, 1}, {0.74, 1}, {0.96, 0}}, t);
-        const double shake = raised * std::sin(t * 8 * std::numbers::pi);
-        return {{}, {{47 * raised + 6 * shake, -70 * raised}, 22 * raised + 16 * shake}};
-    }
-    case WumbleGesture::hop: {
-        const double thrown = along({{0.16, 0}, {0.42, 1}, {0.55, 1}, {0.74, 0}}, t);
-        return both({{22 * thrown, -34 * thrown}, 40 * thrown});
-    }
-    case WumbleGesture::stretch: {
-        const double raised = along({{0.14, 0}, {0.44, 1}, {0.66, 1}, {0.88, 0}}, t);
-        return both({{40 * raised, -78 * raised}, 20 * raised});
-    }
-    case WumbleGesture::peek: {
-        const double hidden = along({{0, 0}, {0.22, 1}, {0.36, 1}, {0.56, 0}}, t);
-        return both({{-4 * hidden, -36 * hidden}, -10 * hidden});
-    }
-    case WumbleGesture::bow: {
-        const double folded = along({{0.06, 0}, {0.4, 1}, {0.64, 1}, {0.9, 0}}, t);
-        return both({{-20 * folded, 2 * folded}, -16 * folded});
-    }
-    case WumbleGesture::tidy: {
-        const double brush = swing(t, 4);
-        return {{{-6 * swell(t), -8 * brush}, -10 * brush}, {{-6 * swell(t), 8 * brush}, 10 * brush}};
-    }
-    case WumbleGesture::giggle: {
-        const double covered = along({{0, 0}, {0.25, 1}, {0.75, 1}, {1, 0}}, t);
-        return both({{-15 * covered, -10 * covered}, -14 * covered});
-    }
-    case WumbleGesture::okay: {
-        const double raised = along({{0.06, 0}, {0.34, 1}, {0.72, 1}, {1, 0}}, t);
-        return {{}, {{18 * raised, -26 * raised}, 18 * raised}};
-    }
-    case WumbleGesture::flop: {
-        const double spread = along({{0.1, 0}, {0.34, 1}, {0.68, 1}, {0.86, 0}}, t);
-        return both({{26 * spread, 4 * spread}, 50 * spread});
-    }
-    case WumbleGesture::sway: {
-        const double aside = swing(t, 2);
-        return {{{-5 * aside, -3 * aside}, 0}, {{5 * aside, 3 * aside}, 0}};
-    }
-    default: return {};
-    }
+    return wumble::rowOf(gestures, gesture).paws(clamped(progress));
 }
 
 } // namespace quietlark::SoftWumble

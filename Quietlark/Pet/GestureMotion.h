@@ -18,7 +18,8 @@ struct Motion {
     bool operator==(const Motion&) const = default;
 };
 
-/// Where a paw is, off its place of rest. The right one; the left is mirrored unless the gesture says otherwise.
+/// Where a paw is, off its place of rest. The right one; the left is mirrored unless the gesture says
+/// otherwise.
 struct PawPose {
     wumble::Point offset;
     double angle = 0; ///< degrees, outwards
@@ -29,8 +30,8 @@ struct Paws {
     PawPose right;
 };
 
-/// `progress` runs from 0 to 1; at both ends the body is at rest. A gesture that needs paws does nothing before
-/// the pet has some.
+/// `progress` runs from 0 to 1; at both ends the body is at rest. A gesture that needs paws does nothing
+/// before the pet has some.
 Motion motion(wumble::WumbleGesture gesture, double progress, const wumble::WumbleTraits& traits,
               int revealed);
 

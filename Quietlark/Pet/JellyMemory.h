@@ -34,8 +34,8 @@ struct Doing {
     bool operator==(const Doing&) const = default;
 };
 
-/// What a view remembers of the last seconds. It only saves work and smooths the pointer: without it every moment
-/// would be worked out the same.
+/// What a view remembers of the last seconds. It only saves work and smooths the pointer: without it every
+/// moment would be worked out the same.
 class JellyMemory {
 public:
     /// A time before the last look begins the list anew. At least two seconds are kept.

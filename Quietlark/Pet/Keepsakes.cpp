@@ -22,15 +22,15 @@ constexpr std::array heartLayers{edge(heart, 0xE6516A), line(heartShine, 0xFFB3B
 constexpr std::array plantLayers{line(plantStem, 0x5C8F45, 4), edge(plantLeafA, 0x76B359),
                                  edge(plantLeafB, 0x629E49),   edge(plantLeafC, 0x8BC66B),
                                  edge(plantPot, 0xD37B52),     edge(plantPotRim, 0xE3946B)};
-constexpr std::array craneLayers{edge(craneBody, 0x86B9E6), fill(craneLight, 0xB7D8F4),
-                                 edge(craneHead, 0x6CA3D6), fill(craneBeak, 0xF4B544)};
+constexpr std::array craneLayers{edge(craneBackWing, 0x6CA3D6), edge(craneBody, 0x86B9E6),
+                                 edge(craneHead, 0xF4B544), edge(craneLight, 0xC3E0F7)};
 constexpr std::array pencilLayers{edge(pencilRubber, 0xF48FA0),       edge(pencilWood, 0xF8C644),
                                   line(pencilStripes, 0xE3A52F, 2.4), edge(pencilTip, 0xF3D6A8),
                                   fill(pencilLead, 0x4A4048),         fill(pencilFerrule, 0xB9BDC8)};
 constexpr std::array lanternLayers{line(lanternHandle, 0x5B4034, 3.4), edge(lanternPaper, 0xF0714D),
                                    fill(lanternGlow, 0xFFDD8E), line(lanternBands, 0xCB5236, 2.4),
                                    edge(lanternCaps, 0x5B4034)};
-constexpr std::array dangoLayers{edge(dangoTilt, 0xC99B62), edge(dangoBottom, 0xA6C97F),
+constexpr std::array dangoLayers{edge(dangoStick, 0xC99B62), edge(dangoBottom, 0xA6C97F),
                                  edge(dangoMiddle, 0xFFF7E8), edge(dangoTop, 0xFFA9BA),
                                  line(dangoBalls, 0xFFFFFF, 5, 0.75)};
 constexpr std::array onigiriLayers{edge(onigiri, 0xFFFEFA), line(onigiri, 0xDCD2C2, 2.2),
@@ -42,7 +42,7 @@ constexpr std::array darumaLayers{edge(daruma, 0xDB463F),           fill(darumaS
 constexpr std::array balloonLayers{line(balloonString, 0x5B4A4E, 2.6), edge(balloon, 0xF2637A),
                                    edge(balloonKnot, 0xD2475F), line(balloonShine, 0xFFC2CB, 5)};
 
-constexpr QPointF belly{133, 208};
+constexpr QPointF belly{133, 210};
 
 struct Hold {
     WumbleKeepsake value;
@@ -54,16 +54,16 @@ struct Hold {
 };
 
 constexpr std::array<Hold, 11> belongings{{
-    {WumbleKeepsake::book, bookLayers, {0, 2}, -3, 1.15, 33},
-    {WumbleKeepsake::tea, teaLayers, {0, 3}, 3, 1.15, 27},
-    {WumbleKeepsake::heart, heartLayers, {0, 3}, -5, 1.2, 26},
-    {WumbleKeepsake::plant, plantLayers, {50, -10}, 5, 1.05, -30},
-    {WumbleKeepsake::crane, craneLayers, {0, 4}, -4, 1.1, 30},
-    {WumbleKeepsake::pencil, pencilLayers, {46, -6}, 24, 1.05, 14},
-    {WumbleKeepsake::lantern, lanternLayers, {50, 2}, 6, 1.1, 4},
-    {WumbleKeepsake::dango, dangoLayers, {48, -6}, 24, 1.1, 12},
-    {WumbleKeepsake::onigiri, onigiriLayers, {0, 2}, 4, 1.15, 29},
-    {WumbleKeepsake::daruma, darumaLayers, {0, 1}, -3, 1.08, 29},
+    {WumbleKeepsake::book, bookLayers, {0, 4}, -3, 1.12, 39},
+    {WumbleKeepsake::tea, teaLayers, {0, 4}, 3, 1.12, 33},
+    {WumbleKeepsake::heart, heartLayers, {0, 3}, -5, 1.2, 31},
+    {WumbleKeepsake::plant, plantLayers, {72, -3}, 5, 0.95, -34},
+    {WumbleKeepsake::crane, craneLayers, {0, 4}, -4, 1.12, 42},
+    {WumbleKeepsake::pencil, pencilLayers, {62, -4}, 24, 1.0, -8},
+    {WumbleKeepsake::lantern, lanternLayers, {64, 2}, 6, 1.05, -20},
+    {WumbleKeepsake::dango, dangoLayers, {62, -4}, 24, 1.05, -4},
+    {WumbleKeepsake::onigiri, onigiriLayers, {0, 5}, 4, 1.08, 36},
+    {WumbleKeepsake::daruma, darumaLayers, {0, 6}, -3, 1, 35},
     {WumbleKeepsake::balloon, balloonLayers, {0, 0}, 0, 1, 0},
 }};
 static_assert(wumble::isInOrder(belongings));

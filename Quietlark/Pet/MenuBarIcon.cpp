@@ -30,12 +30,12 @@ struct Look {
 
 /// The lump sinks a little and its eyes close as the break comes nearer.
 constexpr std::array<Look, steps> tiredness{{
-    {.tall = 1, .eyeHeight = 5},
-    {.tall = 0.97, .eyeHeight = 4.1},
-    {.tall = 0.93, .eyeHeight = 3.2},
-    {.tall = 0.88, .eyeHeight = 2.3},
-    {.tall = 0.82, .eyeHeight = 1.5},
-    {.tall = 0.74, .eyeHeight = 0, .arch = 1.6},
+    {.tall = 1, .eyeHeight = 5.6},
+    {.tall = 0.96, .eyeHeight = 4.3},
+    {.tall = 0.91, .eyeHeight = 3.2},
+    {.tall = 0.85, .eyeHeight = 2.2},
+    {.tall = 0.79, .eyeHeight = 1.3},
+    {.tall = 0.72, .eyeHeight = 0, .arch = 1.6},
 }};
 
 Look lookOf(const Mood& mood) {
@@ -121,6 +121,17 @@ void drawIcon(QPainter& painter, const Key& key) {
 }
 
 } // namespace
+
+std::vector<Mood> allMoods() {
+    std::vector<Mood> moods;
+    for (int sleepiness = 0; sleepiness < steps; ++sleepiness) {
+        moods.emplace_back(mood::Awake{sleepiness});
+    }
+    moods.emplace_back(mood::Due{});
+    moods.emplace_back(mood::OnBreak{});
+    moods.emplace_back(mood::Paused{});
+    return moods;
+}
 
 QImage image(const Key& key, int pixels) {
     thread_local std::map<std::pair<Key, int>, QImage> drawn;

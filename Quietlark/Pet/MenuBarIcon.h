@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <map>
 #include <variant>
+#include <vector>
 
 /// The small pet in the panel: one shape in the panel's ink. It tells at a glance how near the break is.
 namespace quietlark::MenuBarIcon {
@@ -28,6 +29,9 @@ struct Paused {
 } // namespace mood
 
 using Mood = std::variant<mood::Awake, mood::Due, mood::OnBreak, mood::Paused>;
+
+/// The six steps, and what else can be.
+std::vector<Mood> allMoods();
 
 struct Key {
     Mood mood;

@@ -34,12 +34,13 @@ void drawGroundShadow(QPainter& painter, const Stage& stage) {
     painter.drawEllipse(QPointF(134 + stage.motion.offset.x, 233), width / 2, 8 * (1 - lifted));
 }
 
-void drawOutlines(QPainter& painter, const Stage& stage, const QPainterPath& everything) {
+/// One after another: strokes that cross each other within one path take the rasterizer much longer.
+void drawOutlines(QPainter& painter, const Stage& stage, std::span<const QPainterPath> outlines) {
     const double keyline = std::max(keylineWidth, thinnestLine / pixelsPerUnit(painter));
     const auto stroke = [&](const QColor& colour, double width) {
-        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.setBrush(colour);
-        painter.drawPath(everything);
+        for (const QPainterPath& outline : outlines) {
+            painter.strokePath(outline, QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        }
     };
     stroke(stage.tweaks.stickerInk.value_or(stage.colours.ink), rimWidth + 2 * keyline);
     stroke(stage.tweaks.stickerWhite.value_or(Qt::white), rimWidth);
@@ -54,7 +55,7 @@ QPainterPath shadeOf(const QPainterPath& body) {
 }
 
 /// Marks that run over the edge take the shade of the body with them.
-constexpr QColor evenShade{110, 60, 30, 30};
+constexpr QColor coatShade{110, 60, 30, 40};
 
 void drawHighlights(QPainter& painter, const Stage& stage) {
     struct Light {
@@ -74,9 +75,11 @@ void drawBody(QPainter& painter, const Stage& stage) {
     painter.setTransform(stage.body, true);
     painter.fillPath(stage.bent, stage.colours.body);
     painter.setClipPath(stage.bent, Qt::IntersectClip);
-    painter.fillPath(shadeOf(stage.bent), stage.colours.shade);
-    drawTexture(painter, stage);
-    painter.fillPath(shadeOf(stage.bent), evenShade);
+    const QPainterPath shade = shadeOf(stage.bent);
+    painter.fillPath(shade, stage.colours.shade);
+    if (drawTexture(painter, stage) == Texture::overTheEdge) {
+        painter.fillPath(shade, coatShade);
+    }
     drawHighlights(painter, stage);
 }
 
@@ -93,21 +96,20 @@ struct Belongings {
 };
 
 /// All that the rim goes around.
-QPainterPath everything(const Stage& stage, const Belongings& things) {
-    QPainterPath path = stage.outline;
-    path.setFillRule(Qt::WindingFill);
+std::vector<QPainterPath> outlines(const Stage& stage, const Belongings& things) {
+    std::vector<QPainterPath> paths{stage.outline};
     if (stage.tweaks.parts != Parts::all) {
-        return path;
+        return paths;
     }
     for (const auto* thing : {&things.accessory, &things.keepsake, &things.talking, &things.typing}) {
         if (*thing) {
-            path.addPath(outline(**thing));
+            paths.push_back(outline(**thing));
         }
     }
     for (const QTransform& seat : pawSeats(stage)) {
-        path.addPath(seat.map(bean.path()));
+        paths.push_back(seat.map(bean.path()));
     }
-    return path;
+    return paths;
 }
 
 void drawBelongings(QPainter& painter, const Stage& stage, const Belongings& things) {
@@ -127,6 +129,9 @@ void drawBelongings(QPainter& painter, const Stage& stage, const Belongings& thi
 
 void draw(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day, const WumblePose& pose,
           Sticker sticker, const Tweaks& tweaks) {
+    if (!place.isValid()) {
+        return;
+    }
     const PainterScope scope(painter);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setTransform(boxIn(place), true);
@@ -137,7 +142,7 @@ void draw(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day, 
             drawGroundShadow(painter, stage);
         }
         if (sticker == Sticker::dieCut) {
-            drawOutlines(painter, stage, everything(stage, things));
+            drawOutlines(painter, stage, outlines(stage, things));
         }
         drawBody(painter, stage);
     }

@@ -28,7 +28,8 @@ struct Tweaks {
     bool operator==(const Tweaks&) const = default;
 };
 
-/// Draws the pet into the largest square in the middle of `place`. The painter is left as it was.
+/// Draws the pet into the largest square in the middle of `place`. The painter is left as it was. An
+/// empty place gets nothing.
 void draw(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day, const WumblePose& pose,
           Sticker sticker = Sticker::dieCut, const Tweaks& tweaks = {});
 

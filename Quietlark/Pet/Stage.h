@@ -57,7 +57,9 @@ void drawLayer(QPainter& painter, const Stage& stage, const Layer& layer, const 
 /// Where the face and what belongs to it lie: from their place in the box.
 QTransform faceSeat(const Stage& stage);
 
-void drawTexture(QPainter& painter, const Stage& stage);
+/// Whether a flavour's marks lie on the dough or cover its edge too, and with it the shade there.
+enum class Texture { within, overTheEdge };
+Texture drawTexture(QPainter& painter, const Stage& stage);
 void drawFace(QPainter& painter, const Stage& stage);
 void drawCheeks(QPainter& painter, const Stage& stage);
 

@@ -35,7 +35,7 @@ constexpr std::array hanamiMarks{Layer{hanamiPink, 0xFBC3CF}, Layer{hanamiGreen,
 constexpr std::array sesameMarks{Layer{sesameSeed, 0x443D45, 5}};
 constexpr std::array peachMarks{soft(peachBlush, 0xFA9684, 0.55), Layer{peachCleft, shade, 4}};
 constexpr std::array matchaMarks{Layer{matchaPowder, 0x7E9F4F}, Layer{matchaDust, 0x7E9F4F, 3.6}};
-constexpr std::array vanillaMarks{Layer{vanillaSeeds, 0x6B5340, 3}};
+constexpr std::array vanillaMarks{Layer{speckles, 0x6B5340, 3}};
 constexpr std::array taroMarks{Layer{taroSwirl, 0xAE8FCC}, Layer{taroSwirlLow, 0xAE8FCC}};
 constexpr std::array pandanMarks{Layer{pandanCrease, 0x6FAA69, 4}};
 constexpr std::array coconutMarks{Layer{coconutShell, 0x94694C}, Layer{coconutFibre, 0x714B34, 2.6},
@@ -49,45 +49,48 @@ constexpr std::array thaiTeaMarks{Layer{thaiTeaRibbon, 0xFFF0DC}};
 struct Marks {
     WumbleBase value;
     Layers layers;
+    Texture texture = Texture::within;
 };
 
 constexpr std::array<Marks, 26> marks{{
     {WumbleBase::plain, {}},
-    {WumbleBase::sakura, sakuraMarks},
-    {WumbleBase::kinako, kinakoMarks},
-    {WumbleBase::isobe, isobeMarks},
+    {WumbleBase::sakura, sakuraMarks, Texture::overTheEdge},
+    {WumbleBase::kinako, kinakoMarks, Texture::overTheEdge},
+    {WumbleBase::isobe, isobeMarks, Texture::overTheEdge},
     {WumbleBase::yuzu, yuzuMarks},
     {WumbleBase::azuki, azukiMarks},
-    {WumbleBase::imo, imoMarks},
+    {WumbleBase::imo, imoMarks, Texture::overTheEdge},
     {WumbleBase::yomogi, yomogiMarks},
     {WumbleBase::ramune, ramuneMarks},
     {WumbleBase::hojicha, hojichaMarks},
     {WumbleBase::mame, mameMarks},
-    {WumbleBase::kuri, kuriMarks},
+    {WumbleBase::kuri, kuriMarks, Texture::overTheEdge},
     {WumbleBase::strawberry, strawberryMarks},
-    {WumbleBase::mitarashi, mitarashiMarks},
-    {WumbleBase::hanami, hanamiMarks},
+    {WumbleBase::mitarashi, mitarashiMarks, Texture::overTheEdge},
+    {WumbleBase::hanami, hanamiMarks, Texture::overTheEdge},
     {WumbleBase::blackSesame, sesameMarks},
-    {WumbleBase::peach, peachMarks},
-    {WumbleBase::matcha, matchaMarks},
+    {WumbleBase::peach, peachMarks, Texture::overTheEdge},
+    {WumbleBase::matcha, matchaMarks, Texture::overTheEdge},
     {WumbleBase::vanilla, vanillaMarks},
-    {WumbleBase::taro, taroMarks},
+    {WumbleBase::taro, taroMarks, Texture::overTheEdge},
     {WumbleBase::pandan, pandanMarks},
-    {WumbleBase::coconut, coconutMarks},
-    {WumbleBase::mango, mangoMarks},
+    {WumbleBase::coconut, coconutMarks, Texture::overTheEdge},
+    {WumbleBase::mango, mangoMarks, Texture::overTheEdge},
     {WumbleBase::blueberry, blueberryMarks},
     {WumbleBase::cocoa, cocoaMarks},
-    {WumbleBase::thaiTea, thaiTeaMarks},
+    {WumbleBase::thaiTea, thaiTeaMarks, Texture::overTheEdge},
 }};
 static_assert(wumble::isInOrder(marks));
 
 } // namespace
 
-void drawTexture(QPainter& painter, const Stage& stage) {
+Texture drawTexture(QPainter& painter, const Stage& stage) {
     const PainterScope scope(painter);
-    for (const Layer& layer : wumble::rowOf(marks, stage.day.base).layers) {
+    const auto& row = wumble::rowOf(marks, stage.day.base);
+    for (const Layer& layer : row.layers) {
         drawLayer(painter, stage, layer, stage.soft.bendy(layer.art.path()));
     }
+    return row.texture;
 }
 
 } // namespace quietlark::SoftWumble

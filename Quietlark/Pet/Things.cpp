@@ -15,7 +15,7 @@ constexpr std::array headsetLayers{Layer{headsetBand, 0x4B5268, 0, true},
 constexpr std::array keyboardLayers{Layer{keyboard, 0xE9E7F2, 0, true}, Layer{keyboardFront, 0xC3BFD6},
                                     Layer{keyboardKeys, 0xA39DBE, 5}};
 
-constexpr QColor contactShade{90, 45, 25, 46};
+constexpr QColor contactShade{90, 45, 25, 54};
 constexpr QPointF pawRest{38, 206}; ///< from the axis of the face, at rest on the belly
 constexpr double pawAxis = 134;
 constexpr double pawSize = 0.98;
@@ -88,13 +88,10 @@ QPainterPath outline(const Placed& thing) {
 }
 
 void drawContact(QPainter& painter, const Stage& stage, const Placed& thing) {
-    constexpr double spread = 5;
-    constexpr double fall = 3;
+    constexpr QPointF fall{1.5, 5};
     const PainterScope scope(painter);
     painter.setClipPath(stage.outline, Qt::IntersectClip);
-    painter.setPen(QPen(contactShade, spread, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(contactShade);
-    painter.drawPath(outline(thing).translated(0, fall));
+    painter.fillPath(outline(thing).translated(fall), contactShade);
 }
 
 void drawPaws(QPainter& painter, const Stage& stage) {

@@ -219,7 +219,7 @@ WumblePose sittingUp(const Moment& moment) {
     pose.tall = Choreography::sitUp(levels, moment.elapsed);
     pose.lean = Choreography::sitUp(slump, moment.elapsed);
     pose.lids =
-        std::max(blink(moment.t), 0.5 * Choreography::sitUp(std::array{1.0, 0.6, 0.2, 0.0}, moment.elapsed));
+        std::max(blink(moment.t), 0.4 * Choreography::sitUp(std::array{1.0, 0.6, 0.2, 0.0}, moment.elapsed));
     return pose;
 }
 
@@ -345,7 +345,8 @@ double letGo(double t) {
 }
 
 double blink(double t) {
-    /// Where blinks begin within a round that is too long and too uneven to be noticed. One is a double blink.
+    /// Where blinks begin within a round that is too long and too uneven to be noticed. One is a double
+    /// blink.
     constexpr std::array starts{1.3, 5.9, 9.2, 9.55, 14.8, 18.1, 24.3, 28.9, 32.0, 37.4};
     constexpr double round = 41.7;
     constexpr double close = 0.09;

@@ -9,13 +9,13 @@
 namespace quietlark::WumbleAnimator {
 
 /// `t` is the time in seconds on the pet's own clock, which the breath and the blinks follow; `elapsed` the
-/// seconds since the mood began. `calm` keeps to breath and blinks: no gestures, no looks aside. Reduced motion
-/// is still, but for the face and what floats, which hold.
+/// seconds since the mood began. `calm` keeps to breath and blinks: no gestures, no looks aside. Reduced
+/// motion is still, but for the face and what floats, which hold.
 WumblePose pose(wumble::WumbleMood mood, const wumble::WumbleDay& day, double t, double elapsed,
                 bool reduceMotion, bool calm, const wumble::WumbleJelly& jelly);
 
-/// A pose with a gesture played over it, `t` seconds after it began; the pose itself when the gesture is over or
-/// can't be played.
+/// A pose with a gesture played over it, `t` seconds after it began; the pose itself when the gesture is over
+/// or can't be played.
 WumblePose reacting(WumblePose pose, const wumble::WumbleDay& day, wumble::WumbleGesture gesture, double t,
                     bool reduceMotion);
 
@@ -28,7 +28,8 @@ double pullAmount(double t, bool reduceMotion);
 /// What is left of a pull `t` seconds after it was let go: it swings past its rest, and settles.
 double letGo(double t);
 
-/// How far the lids are down at `t`: a blink every few seconds, on a rhythm that is uneven and always the same.
+/// How far the lids are down at `t`: a blink every few seconds, on a rhythm that is uneven and always the
+/// same.
 double blink(double t);
 
 /// Where the pet looks by itself, -1 to 1; mostly ahead.

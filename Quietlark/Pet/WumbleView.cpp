@@ -17,7 +17,9 @@ namespace {
 using wumble::WumbleGesture;
 using wumble::WumbleJelly;
 
-constexpr int frameInterval = 16;  ///< milliseconds
+constexpr int livelyFrames = 16;   ///< milliseconds from frame to frame while something quick goes on
+constexpr int calmFrames = 33;     ///< and while it only breathes
+constexpr double freshMood = 2.5;  ///< seconds in which a new mood may be quick
 constexpr double pullLength = 0.6; ///< of its width, how far a full pull drags it
 constexpr double firstTouch = 4;   ///< points that a hand may tremble in a click
 constexpr double settled = 1.6;    ///< seconds after which a pull that was let go has died down
@@ -40,7 +42,6 @@ WumbleView::WumbleView(const wumble::WumbleDay& day, QWidget* parent)
     doing_.day = day;
     doing_.moodStart = clock_.now();
     doing_.gazes = true;
-    frames_.setInterval(frameInterval);
     frames_.setTimerType(Qt::PreciseTimer);
     connect(&frames_, &QTimer::timeout, this, [this] { nextFrame(); });
     setFocusPolicy(Qt::TabFocus);
@@ -96,6 +97,11 @@ void WumbleView::setFamilyName(const QString& name) {
 void WumbleView::setFollowsPointer(bool follows) { doing_.gazes = follows; }
 void WumbleView::setGaze(std::optional<wumble::Point> gaze) { gaze_ = gaze; }
 void WumbleView::setSticker(SoftWumble::Sticker sticker) { sticker_ = sticker; }
+
+void WumbleView::setRoom(double room) {
+    room_ = std::clamp(room, 0.0, 0.45);
+    update();
+}
 
 void WumbleView::setPokable(bool pokable) {
     pokable_ = pokable;
@@ -215,12 +221,25 @@ bool WumbleView::isMoving(double now) const {
     return !appearance_.reduceMotion || changesFace;
 }
 
+bool WumbleView::isLively(double now) const {
+    const bool reacts =
+        doing_.reaction && now < *doing_.reaction + duration(doing_.reactionGesture) + settled;
+    const bool swings = pressedAt_ || (doing_.letGo && now < *doing_.letGo + settled);
+    const bool isLoud =
+        doing_.mood == wumble::WumbleMood::celebrate || doing_.mood == wumble::WumbleMood::demonstrate;
+    return showsGesture_ || reacts || swings || isLoud || now < doing_.moodStart + freshMood;
+}
+
 /// Draws now, and keeps drawing while it is seen and something moves.
 void WumbleView::nextFrame() {
     update();
-    const bool runs = isVisible() && isMoving(clock_.now());
-    if (runs != frames_.isActive()) {
-        runs ? frames_.start() : frames_.stop();
+    const double now = clock_.now();
+    if (!isVisible() || !isMoving(now)) {
+        return frames_.stop();
+    }
+    const int interval = isLively(now) ? livelyFrames : calmFrames;
+    if (!frames_.isActive() || frames_.interval() != interval) {
+        frames_.start(interval);
     }
 }
 
@@ -229,8 +248,11 @@ void WumbleView::hideEvent(QHideEvent*) { frames_.stop(); }
 
 void WumbleView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    SoftWumble::draw(painter, rect(), doing_.day, pose(clock_.now()), sticker_,
-                     stickerColours(appearance_, tweaks_));
+    const double free = room_ * std::min(width(), height());
+    const QRectF place = QRectF(rect()).adjusted(free, free, -free, -free);
+    const WumblePose shown = pose(clock_.now());
+    showsGesture_ = shown.gesture != WumbleGesture::still;
+    SoftWumble::draw(painter, place, doing_.day, shown, sticker_, stickerColours(appearance_, tweaks_));
     if (hasFocus()) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(colour(Role::line, appearance_), 2, Qt::DotLine));

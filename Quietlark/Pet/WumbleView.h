@@ -42,6 +42,9 @@ public:
     void setPokable(bool pokable);
     void setSticker(SoftWumble::Sticker sticker);
 
+    /// The part of the widget on each side that is left free for hops and stretches, 0 to below a half.
+    void setRoom(double room);
+
     /// Plays a gesture `after` seconds from now; one that needs paws only when the pet has some.
     void react(wumble::WumbleGesture gesture, double after = 0);
 
@@ -70,6 +73,7 @@ private:
     WumblePose firmPose(double now, const Look& pointer, const wumble::WumbleJelly& jelly) const;
     Look pointerLook() const;
     double pulledBy(double now) const;
+    bool isLively(double now) const;
     void say();
     void nextFrame();
 
@@ -84,7 +88,9 @@ private:
     std::optional<wumble::Point> gaze_;
     std::optional<QPointF> pressedAt_;
     double pull_ = 0; ///< while it is dragged, -1 to 1; after that what it was when it was let go
+    double room_ = 0;
     bool pokable_ = true;
+    bool showsGesture_ = false; ///< in the last frame
     QTimer frames_;
 };
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::array appIconSizes{16, 22, 24, 32, 48, 64, 128, 256, 512};
 
-/// The pet that stands for the program: a mitarashi with a sprout, glad to see you.
+/// The pet that stands for the program: a sakura with a sprout, glad to see you.
 wumble::WumbleDay mascot() {
     auto day = samplePet(wumble::WumbleBase::sakura, 5);
     day.traits.eyes = wumble::WumbleEyes::round;
@@ -33,21 +33,10 @@ QImage appIcon(int size) {
     return image;
 }
 
-std::vector<MenuBarIcon::Mood> trayMoods() {
-    std::vector<MenuBarIcon::Mood> moods;
-    for (int sleepiness = 0; sleepiness < 6; ++sleepiness) {
-        moods.emplace_back(MenuBarIcon::mood::Awake{sleepiness});
-    }
-    moods.emplace_back(MenuBarIcon::mood::Due{});
-    moods.emplace_back(MenuBarIcon::mood::OnBreak{});
-    moods.emplace_back(MenuBarIcon::mood::Paused{});
-    return moods;
-}
-
 /// One row of the tray icon's moods, each pixel `zoom` pixels wide.
 QImage trayRow(int size, int zoom, bool dark) {
     constexpr int gap = 8;
-    const auto moods = trayMoods();
+    const auto moods = MenuBarIcon::allMoods();
     const int count = static_cast<int>(moods.size());
     QImage row(count * (size + gap) + gap, size + 2 * gap, QImage::Format_ARGB32_Premultiplied);
     row.fill(colour(Role::page, {.dark = dark}));

@@ -5,8 +5,8 @@
 
 namespace quietlark {
 
-/// A pet that shows `revealed` of its looks. `variety` goes round through eyes, mouths, cheeks, accessories and
-/// keepsakes.
+/// A pet that shows `revealed` of its looks. `variety` goes round through eyes, mouths, cheeks, accessories
+/// and keepsakes.
 wumble::WumbleDay samplePet(wumble::WumbleBase base, int revealed, int variety = 0);
 
 Cell petCell(std::string caption, const wumble::WumbleDay& day, const WumblePose& pose,

@@ -18,8 +18,8 @@ struct Renderer {
 
 std::span<const Renderer> renderers();
 
-/// Runs the renderer of that option; needs a QApplication. An empty folder is the renderer's own. 0 when all was
-/// written, 1 when not, 64 for an option that no renderer has.
+/// Runs the renderer of that option; needs a QApplication. An empty folder is the renderer's own. 0 when all
+/// was written, 1 when not, 64 for an option that no renderer has.
 int runRenderer(std::string_view option, const std::filesystem::path& folder, Appearance appearance);
 
 } // namespace quietlark

@@ -3,8 +3,8 @@
 #include "Quietlark/Pet/Art/Art.h"
 #include "WumbleCore/Life/WumbleBase.h"
 
-/// The lumps of dough: wide, low, heavy at the floor, sagging a little over their own edge, with a top that is
-/// never an arc.
+/// The lumps of dough: wide, low, heavy at the floor, sagging a little over their own edge, with a top that
+/// is never an arc.
 namespace quietlark::SoftWumble {
 
 inline constexpr Art vanillaShape{"M51 158C59 111 90 87 132 87C175 83 207 112 218 155C223 173 234 190 232 203"

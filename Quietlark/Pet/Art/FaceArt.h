@@ -2,7 +2,8 @@
 
 #include "Quietlark/Pet/Art/Art.h"
 
-/// Faces: low, wide, and small. Everything lies at its place in the box; eyes about x 97 and 171, the mouth between.
+/// Faces: low, wide, and small. Everything lies at its place in the box; eyes about x 97 and 171, the mouth
+/// between.
 namespace quietlark::SoftWumble {
 
 inline constexpr double eyeLeft = 97;
@@ -40,21 +41,18 @@ inline constexpr Art droopyBowl{"M91.2 164.5C94.5 163.5 100 161.5 103 160C107 16
                                 "C161 164 163 172.6 169.5 172.8C176 173 178.5 168.5 176.8 164.5Z"};
 inline constexpr Art droopyLid{
     "M87.5 165.5C92 164.8 99 161.8 103.5 158.5M180.5 165.5C176 164.8 169 161.8 164.5 158.5"};
-inline constexpr Art halfLids{
-    "M88.5 163.5C93 161.5 101 161.5 105.5 163.5M162.5 163.5C167 161.5 175 161.5 179.5 163.5"};
-inline constexpr Art squeezedEyes{"M90 160.5L103 165.5L90.5 170.5M178 160.5L165 165.5L177.5 170.5"};
-
 /// A spiral around its own origin.
 inline constexpr Art dizzyEye{"M.5 0C1.8-.8 1.2-3-.8-2.8C-3.8-2.6-4 1.6-1.8 3C1.6 5 5.6 2.2 "
                               "5.2-1.6C4.8-5.8.2-7.6-3.2-6.4C-5.4-5.6-6.8-3.8-7.2-1.6"};
 
 inline constexpr Art curiousBrows{"M90 150.5C94 146.8 100 146.4 104.5 149M164 153C168 151 174 151 178 153.5"};
 inline constexpr Art focusedBrows{
-    "M89 153.5C94 152.5 100 153.8 104.5 156.5M179 153.5C174 152.5 168 153.8 163.5 156.5"};
+    "M90 152.5C94.5 151 100 151.6 104.5 153.8M178 152.5C173.5 151 168 151.6 163.5 153.8"};
 inline constexpr Art worriedBrows{
     "M89 154.5C93 151 98 149.5 103 149.8M179 154.5C175 151 170 149.5 165 149.8"};
 
 inline constexpr Art smileMouth{"M126 175.5C129 181.5 139 181.5 142 175.5"};
+inline constexpr Art smallSmile{"M129 176C130.8 179.4 137.2 179.4 139 176"};
 inline constexpr Art catMouth{"M122 175C123.5 180.5 132 181.2 134 175.5C136 181.2 144.5 180.5 146 175"};
 inline constexpr Art flatMouth{"M127 178Q133 174 139 178"};
 inline constexpr Art wavyMouth{"M123.5 178C126 174.2 129 174.6 131.5 177.4C134 180.2 137 180.2 139.5 "

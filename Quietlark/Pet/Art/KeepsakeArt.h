@@ -49,13 +49,13 @@ inline constexpr Art plantLeafB{"M0-18C4-36 18-44 30-38C30-24 16-14 0-18Z"};
 
 inline constexpr Art plantLeafC{"M0-22C-9-32-7-46 1-52C9-46 9-32 0-22Z"};
 
-inline constexpr Art craneBody{"M-31 2L-8-5L0-26L13-6L33-18L23 11L4 21L-18 15Z"};
+inline constexpr Art craneBody{"M-36-17L-7 0L2-2L15 4L26-20L32-17L26 9L5 21L-14 10Z"};
 
-inline constexpr Art craneLight{"M-8-5L0-26L13-6L4 21ZM-31 2L-8-5L-6 7L-18 15Z"};
+inline constexpr Art craneLight{"M-6 4L8-25L16 6L4 13Z"};
 
-inline constexpr Art craneHead{"M13-6L33-18L23 11Z"};
+inline constexpr Art craneBackWing{"M-2 2L-13-22L-10 7Z"};
 
-inline constexpr Art craneBeak{"M30-19C33-21 35-19 35-17L41-13L31-11Z"};
+inline constexpr Art craneHead{"M26-20L40-12L31-13Z"};
 
 inline constexpr Art pencilWood{"M-11-34L11-34L11 16L-11 16Z"};
 
@@ -82,9 +82,7 @@ inline constexpr Art lanternCaps{
     "M-15-29L15-29C17-29 17-23 15-23L-15-23C-17-23-17-29-15-29ZM-14 18L14 18C16 18 16 25 14 25L-14 25"
     "C-16 25-16 18-14 18Z"};
 
-inline constexpr Art dangoStick{"M0-48L0 34"};
-
-inline constexpr Art dangoTilt{"M-6-50L6-50L6 36L-6 36Z"};
+inline constexpr Art dangoStick{"M-6-50L6-50L6 36L-6 36Z"};
 
 inline constexpr Art dangoTop{
     "M0-46.5C8.6-46.5 15.5-40 15.5-32C15.5-24 8.6-17.5 0-17.5C-8.6-17.5-15.5-24-15.5-32"

@@ -2,12 +2,9 @@
 
 #include "Quietlark/Pet/Art/Art.h"
 
-/// What each flavour has on its dough. At its place in the box; everything is clipped to the body and bends with it.
+/// What each flavour has on its dough. At its place in the box; everything is clipped to the body and bends
+/// with it.
 namespace quietlark::SoftWumble {
-
-inline constexpr Art speckles{
-    "M88 120h.1M112 103h.1M146 100h.1M178 116h.1M198 142h.1M66 152h.1M212 176h.1M56 182h.1M128 122h.1"
-    "M160 128h.1M104 138h.1M76 204h.1M204 206h.1M150 142h.1M120 212h.1M160 210h.1"};
 
 inline constexpr Art kinakoDust{
     "M20 60L250 60L250 140C240 150 228 138 218 142C208 147 204 136 194 137C184 139 178 130 168 131"
@@ -160,7 +157,7 @@ inline constexpr Art matchaDust{
     "M92 138h.1M118 128h.1M164 137h.1M188 136h.1M64 146h.1M206 146h.1M136 138h.1M100 146h.1M54 172h.1"
     "M218 172h.1M84 208h.1M194 208h.1"};
 
-inline constexpr Art vanillaSeeds{
+inline constexpr Art speckles{
     "M88 120h.1M112 103h.1M146 100h.1M178 116h.1M198 142h.1M66 152h.1M212 176h.1M56 182h.1M128 122h.1"
     "M160 128h.1M104 138h.1M76 204h.1M204 206h.1M150 142h.1M120 212h.1M160 210h.1M94 108h.1M100 116"
     "h.1M184 130h.1M190 122h.1M70 170h.1M210 194h.1"};
