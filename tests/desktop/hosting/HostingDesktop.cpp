@@ -23,7 +23,7 @@ void PlainView::keyPressEvent(QKeyEvent* event) {
 }
 
 void HostingDesktop::SetUp() {
-    for (const char* program : {"Xvfb", "openbox", "picom", "xdotool", "xrandr"}) {
+    for (const char* program : {"Xvfb", "openbox", "picom", "xdotool", "xprop", "xrandr"}) {
         LAB_NEEDS(program);
     }
     host = makeSurfaceHost();
@@ -50,8 +50,9 @@ void HostingDesktop::startWindowManager() {
     manager->readLine();
     // A window that comes while it is still starting would wait for seconds to be let in.
     ASSERT_TRUE(lab::spinUntil([] {
-        const std::string answer = server->run({"xprop", "-root", "_NET_SUPPORTED"});
-        return answer.find("_NET_ACTIVE_WINDOW") != std::string::npos;
+        const std::string named = server->run({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"});
+        const std::string window = named.substr(named.rfind(' ') + 1);
+        return server->run({"xprop", "-id", window, "_NET_WM_NAME"}).find("Openbox") != std::string::npos;
     }));
 }
 

@@ -64,6 +64,7 @@ TEST_F(HostingDesktop, aSmallWindowThatInsistsIsLetOnTopInTheEnd) {
     int raises = 0;
     EXPECT_TRUE(lab::spinUntil([&] {
         pushy.raise();
+        EXPECT_TRUE(pushy.isViewable()) << "and with the answer the server has raised it";
         ++raises;
         return !lab::spinUntil([] { return colourAt({350, 350}) == QColor(Qt::red); }, 0.3);
     }));

@@ -65,14 +65,25 @@ bool X11Layers::holds(xcb_window_t window) const {
     return std::ranges::find(ours_, window, &Ours::id) != ours_.end();
 }
 
-/// The frames that a window manager draws may pass by itself.
+/// The frames that a window manager draws may pass by itself. One that died leaves its name on the root window, but not
+/// the window that it names.
 void X11Layers::askManager() {
     manager_ = XCB_NONE;
+    askNamedManager(wire_.root(), [this](xcb_window_t named) {
+        askNamedManager(named, [this, named](xcb_window_t confirmed) {
+            manager_ = confirmed == named ? named : xcb_window_t{XCB_NONE};
+        });
+    });
+}
+
+void X11Layers::askNamedManager(xcb_window_t window, std::function<void(xcb_window_t)> answer) {
     const auto cookie =
-        xcb_get_property(wire_.get(), 0, wire_.root(), managerAtom_, XCB_GET_PROPERTY_TYPE_ANY, 0, 1);
-    wire_.ask(cookie.sequence, [this](const void* reply) {
+        xcb_get_property(wire_.get(), 0, window, managerAtom_, XCB_GET_PROPERTY_TYPE_ANY, 0, 1);
+    wire_.ask(cookie.sequence, [answer = std::move(answer)](const void* reply) {
         const auto numbers = propertyNumbers(reply);
-        manager_ = numbers.empty() ? xcb_window_t{XCB_NONE} : numbers.front();
+        if (!numbers.empty()) {
+            answer(numbers.front());
+        }
     });
 }
 
@@ -120,14 +131,24 @@ bool X11Layers::isContested(const X11Neighbour& above, const X11Neighbour& below
     return layer == SurfaceLayer::breakScreen && !fillsAMonitor(above) && fights_[above.id]++ < mostFights;
 }
 
+bool X11Layers::isShield(const X11Neighbour& window) const {
+    return covers(window) && !isManaged(window) && fillsAMonitor(window);
+}
+
+/// Nothing is gained above a shield, since ours stay under it.
 bool X11Layers::isOvertaken() {
     const Neighbours& windows = stacking_.windows();
     for (const Ours& each : ours_) {
         const auto place = std::ranges::find(windows, each.id, &X11Neighbour::id);
+        if (place == windows.end()) {
+            continue;
+        }
+        const auto end = std::find_if(std::next(place), windows.end(),
+                                      [this](const X11Neighbour& other) { return isShield(other); });
         const auto isAbove = [&](const X11Neighbour& other) {
             return isContested(other, *place, each.layer);
         };
-        if (place != windows.end() && std::any_of(std::next(place), windows.end(), isAbove)) {
+        if (std::any_of(std::next(place), end, isAbove)) {
             return true;
         }
     }
@@ -148,7 +169,7 @@ xcb_window_t X11Layers::ceiling() const {
     bool isAboveOurs = false;
     for (const X11Neighbour& window : stacking_.windows()) {
         isAboveOurs = isAboveOurs || holds(window.id);
-        if (isAboveOurs && covers(window) && !isManaged(window) && fillsAMonitor(window)) {
+        if (isAboveOurs && isShield(window)) {
             return window.id;
         }
     }

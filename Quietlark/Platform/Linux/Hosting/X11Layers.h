@@ -41,6 +41,7 @@ private:
     using Neighbours = std::vector<X11Neighbour>;
 
     void askManager();
+    void askNamedManager(xcb_window_t window, std::function<void(xcb_window_t)> answer);
     void keepOnTop();
     bool isOvertaken();
     bool isContested(const X11Neighbour& above, const X11Neighbour& below, SurfaceLayer layer);
@@ -48,6 +49,7 @@ private:
     bool isManaged(const X11Neighbour& window) const;
     bool fillsAMonitor(const X11Neighbour& window) const;
     bool covers(const X11Neighbour& window) const;
+    bool isShield(const X11Neighbour& window) const; ///< as a lock screen may be
     xcb_window_t ceiling() const;
     void restack(xcb_window_t ceiling);
 

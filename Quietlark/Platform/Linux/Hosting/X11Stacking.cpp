@@ -26,6 +26,7 @@ void X11Stacking::follow(bool wanted) {
     }
     isFollowed_ = wanted;
     hasTree_ = false;
+    isKnown_ = false;
     unanswered_ = 0;
     ++round_;
     windows_.clear();
@@ -43,7 +44,8 @@ void X11Stacking::askCounted(unsigned sequence, X11Wire::Answer answer) {
         }
         --unanswered_;
         answer(reply);
-        if (isKnown()) {
+        isKnown_ = isKnown_ || (hasTree_ && unanswered_ == 0);
+        if (isKnown_) {
             changed_();
         }
     });
@@ -99,7 +101,7 @@ void X11Stacking::take(const xcb_generic_event_t& event) {
     case XCB_CONFIGURE_NOTIFY: takeMoved(as<xcb_configure_notify_event_t>(event)); break;
     default: return;
     }
-    if (isKnown()) {
+    if (isKnown_) {
         changed_();
     }
 }

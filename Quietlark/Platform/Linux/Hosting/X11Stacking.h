@@ -29,9 +29,9 @@ public:
     void follow(bool wanted);
 
     /// Whether the first answers are in.
-    bool isKnown() const { return isFollowed_ && hasTree_ && unanswered_ == 0; }
+    bool isKnown() const { return isKnown_; }
 
-    /// From the bottom to the top; empty until known.
+    /// From the bottom to the top; empty until known. A new one is taken for unmapped until all is known of it.
     const std::vector<X11Neighbour>& windows() const { return windows_; }
 
 private:
@@ -52,6 +52,7 @@ private:
     std::vector<X11Neighbour> windows_;
     bool isFollowed_ = false;
     bool hasTree_ = false;
+    bool isKnown_ = false;
     int unanswered_ = 0;
     int round_ = 0; ///< tells answers of an earlier following apart
 };
