@@ -12,6 +12,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace quietlark {
 
@@ -28,6 +29,9 @@ struct NoteSetting {
     std::function<QTransform(double elapsed)> hang = nullptr;
     std::function<void(QPainter& painter, const QTransform& hung)> drawString = nullptr;
     double hangsFor = 0; ///< seconds after which it hangs still
+
+    QRegion besides;         ///< what there is to be seen besides the card and its shadow, at rest
+    double refreshRate = 60; ///< of its screen
 
     /// Told how large the pet is whenever that changes.
     std::function<void(double scale)> sizePet = nullptr;
@@ -73,10 +77,10 @@ private:
 
     QTransform moved(const wumble::NotePose& pose) const;
     double elapsed() const;
-    bool moves() const;
-    bool hangs() const;
+    bool isStill() const;
+    wumble::Date movingUntil() const;
+    void begin();
     void frame();
-    void settle();
     void drawShadow(QPainter& painter, const wumble::NotePose& pose) const;
     void drawLids(QPainter& painter, double shut) const;
 
@@ -89,5 +93,10 @@ private:
     FrameTicker frames_;
     std::vector<QPropertyNotifier> observers_;
 };
+
+/// Hosts a note's content on a stage that follows the appearance. Neither placed nor mapped yet.
+std::unique_ptr<HostedSurface> hostNote(const SurfaceContext& context, std::unique_ptr<QWidget> content,
+                                        std::shared_ptr<ObservedPresence> presence, NoteSetting setting,
+                                        const SurfaceStyle& style);
 
 } // namespace quietlark
