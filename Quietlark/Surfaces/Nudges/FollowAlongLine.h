@@ -34,6 +34,9 @@ public:
     /// The single blinks, steps or breaths, and how many of them are done.
     int rounds() const { return static_cast<int>(roundEnds_.size()); }
     int roundsDone(double elapsed) const;
+    /// When one of them, counted from 0, is done, and when all are.
+    double roundEnd(int round) const { return roundEnds_.at(static_cast<std::size_t>(round)); }
+    double end() const { return cues_.back().from; }
 
 private:
     void add(const wumble::Toast::Blinks& blinks);

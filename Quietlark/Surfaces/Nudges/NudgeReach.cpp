@@ -1,5 +1,7 @@
 #include "Quietlark/Surfaces/Nudges/NudgeReach.h"
 
+#include <QPolygonF>
+
 #include <utility>
 
 namespace quietlark {
@@ -12,7 +14,7 @@ constexpr double pollTolerance = 0.01;
 } // namespace
 
 NudgeReach::NudgeReach(HostedSurface& panel, Pointer pointer, MainLoop& loop)
-    : panel_(panel), view_(&panel.view()), pointer_(std::move(pointer)),
+    : loop_(loop), panel_(panel), view_(&panel.view()), pointer_(std::move(pointer)),
       watch_(loop.repeating(pollInterval, pollTolerance, [this] { poll(); })) {}
 
 void NudgeReach::stop() {
@@ -25,7 +27,9 @@ void NudgeReach::stop() {
 
 void NudgeReach::poll() {
     if (!view_) {
-        return stop();
+        // Not from within its own firing.
+        loop_.post([over = std::shared_ptr(std::move(watch_))] {});
+        return;
     }
     const auto point = pointer_();
     const bool moved = std::exchange(lastPoint_, point) != point;
@@ -48,7 +52,12 @@ void NudgeReach::letThrough(bool takes) {
 }
 
 bool NudgeReach::holds(const std::optional<QRectF>& frame, const std::optional<QPointF>& point) const {
-    return frame && point && frame->translated(panel_.frame().topLeft()).contains(*point);
+    if (!frame || !point) {
+        return false;
+    }
+    const QPointF inView = *point - panel_.frame().topLeft();
+    return swing_ ? swing_().map(QPolygonF(*frame)).containsPoint(inView, Qt::OddEvenFill)
+                  : frame->contains(inView);
 }
 
 } // namespace quietlark
