@@ -1,6 +1,7 @@
 #include "Quietlark/Surfaces/Nudges/NudgeCards.h"
 
 #include "Quietlark/Surfaces/Notes/NoteStage.h"
+#include "Quietlark/Surfaces/Nudges/Eyelids.h"
 #include "Quietlark/Surfaces/Nudges/HangingString.h"
 #include "Quietlark/Surfaces/Nudges/NudgeGeometry.h"
 #include "Quietlark/Surfaces/Nudges/NudgeReach.h"
@@ -33,8 +34,17 @@ void drawString(QPainter& painter, const QRectF& card, const QTransform& hung, c
     StringKnot{knot, lean}.draw(painter, appearance);
 }
 
+/// Where string and knot are to be seen, for a desktop that can't blend.
+QRegion stringAtRest(const NudgeGeometry::Panel& panel) {
+    constexpr QPoint cord(3, 0);
+    constexpr QPoint knot(18, 10);
+    const QPoint tied = QPointF(panel.card.center().x(), panel.card.top()).toPoint();
+    return QRegion(QRect(QPoint(tied.x(), 0) - cord, tied + cord)).united(QRect(tied - knot, tied + knot));
+}
+
 NoteSetting settingFor(const NudgeGeometry::Panel& panel, double scale, wumble::NoteEntrance entrance,
-                       const Screen& screen, const QProperty<Appearance>& appearance) {
+                       const Screen& screen, wumble::WumbleBase base,
+                       const QProperty<Appearance>& appearance) {
     NoteSetting setting{
         .card = panel.card, .radius = Radius::card * scale, .refreshRate = screen.refreshRate};
     if (entrance == wumble::NoteEntrance::hang) {
@@ -45,6 +55,12 @@ NoteSetting settingFor(const NudgeGeometry::Panel& panel, double scale, wumble::
             drawString(painter, card, hung, appearance.value());
         };
         setting.hangsFor = hangsFor;
+        setting.besides = stringAtRest(panel);
+    } else if (entrance == wumble::NoteEntrance::eye) {
+        setting.drawLids = [dough = palette(base), &appearance](QPainter& painter, const QRectF& card,
+                                                                double shut) {
+            Eyelids{card, shut}.draw(painter, dough, appearance.value());
+        };
     }
     return setting;
 }
@@ -63,6 +79,7 @@ wumble::Date NudgeCards::arrivalOf(const wumble::Toast& toast) {
 
 Card NudgeCards::make(const wumble::Toast& toast, const Screen& screen, Card* old) {
     const auto& settings = context_.model.state().settings.value();
+    const auto& today = context_.model.state().today.value();
     const auto entrance = NudgeGeometry::entrance(toast.followAlong);
     const double scale = NudgeGeometry::scale(settings.reminderSize, screen.visibleFrame);
     const auto panel = NudgeGeometry::panel(
@@ -76,11 +93,10 @@ Card NudgeCards::make(const wumble::Toast& toast, const Screen& screen, Card* ol
     }
     card.presence = std::make_shared<ObservedPresence>(
         wumble::NotePresence{.arrived = arrived, .covering = old != nullptr, .entrance = entrance});
-    auto made = std::make_unique<ReminderView>(toast, context_.model.state().today.value(), scale,
-                                               context_.loop, arrived);
+    auto made = std::make_unique<ReminderView>(toast, today, scale, context_.loop, arrived);
     ReminderView* view = made.get();
     view->setOnClose([this, id = toast.id] { dismiss_(id); });
-    auto setting = settingFor(panel, scale, entrance, screen, context_.appearance);
+    auto setting = settingFor(panel, scale, entrance, screen, today.base, context_.appearance);
     setting.sizePet = [view](double size) { view->setPetScale(size); };
     card.surface = hostNote(context_, std::move(made), card.presence, std::move(setting),
                             {.identifier = "nudge", .takesPointer = false});
