@@ -164,32 +164,11 @@ void NoteStage::drawShadow(QPainter& painter, const wumble::NotePose& pose) cons
     painter.fillPath(shape, colour(Role::shadow, appearanceOf(*this)));
 }
 
-/// Two lids that meet below the middle, as those of the pet do.
 void NoteStage::drawLids(QPainter& painter, double shut) const {
-    if (shut <= 0) {
-        return;
+    if (shut > 0 && setting_.drawLids) {
+        painter.setClipPath(rounded(setting_.card, setting_.radius));
+        setting_.drawLids(painter, setting_.card, shut);
     }
-    constexpr double meetAt = 0.62; ///< of the card's height
-    constexpr double bulge = 14;    ///< points by which the edge of a lid is bent
-    constexpr double edge = 2;
-    const auto& card = setting_.card;
-    const double meet = card.top() + card.height() * meetAt;
-    const double upper = card.top() - 2 * bulge + (meet - card.top() + 2 * bulge) * shut;
-    const double lower = card.bottom() + 2 * bulge - (card.bottom() + 2 * bulge - meet) * shut;
-    const auto lid = [&](double outside, double at) {
-        QPainterPath path(QPointF(card.left() - edge, outside));
-        path.lineTo(card.left() - edge, at);
-        path.quadTo(card.center().x(), at + bulge, card.right() + edge, at);
-        path.lineTo(card.right() + edge, outside);
-        path.closeSubpath();
-        return path;
-    };
-    const auto appearance = appearanceOf(*this);
-    painter.setClipPath(rounded(card, setting_.radius));
-    painter.setPen(QPen(colour(Role::line, appearance), edge));
-    painter.setBrush(colour(setting_.lids, appearance));
-    painter.drawPath(lid(card.bottom() + edge, lower));
-    painter.drawPath(lid(card.top() - edge, upper));
 }
 
 QRegion NoteStage::outline() const {

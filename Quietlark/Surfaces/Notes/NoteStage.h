@@ -18,11 +18,10 @@ namespace quietlark {
 
 /// How a card stands on its stage. Points.
 struct NoteSetting {
-    QRectF card;                    ///< in the stage, at rest
-    double radius = Radius::card;   ///< of its corners
-    double lift = Lift::floating;   ///< of its shadow, at rest; below 0: it draws none
-    QPointF anchor{0.5, 0.5};       ///< what stays in place when it scales, in parts of the card
-    Surface lids = Surface::wumble; ///< what closes over a note that goes like an eye
+    QRectF card;                  ///< in the stage, at rest
+    double radius = Radius::card; ///< of its corners
+    double lift = Lift::floating; ///< of its shadow, at rest; below 0: it draws none
+    QPointF anchor{0.5, 0.5};     ///< what stays in place when it scales, in parts of the card
 
     /// How a hanging card is moved so many seconds after it came, and what draws the string that holds it. Absent: it
     /// doesn't hang.
@@ -32,6 +31,9 @@ struct NoteSetting {
 
     QRegion besides;         ///< what there is to be seen besides the card and its shadow, at rest
     double refreshRate = 60; ///< of its screen
+
+    /// Draws what closes over a note that goes like an eye, `shut` from 0 to 1.
+    std::function<void(QPainter& painter, const QRectF& card, double shut)> drawLids = nullptr;
 
     /// Told how large the pet is whenever that changes.
     std::function<void(double scale)> sizePet = nullptr;
