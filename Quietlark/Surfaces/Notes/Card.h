@@ -43,8 +43,15 @@ void leave(Card card, MainLoop& loop);
 /// Takes a note away from under the one that has just landed on it.
 void giveWay(Card card, MainLoop& loop);
 
-/// Makes the card of a toast in the middle of a screen, mapped if `mayShow`. `old` is what it lands on; absent: nothing.
-/// A veil that it takes over from `old` is its own business.
-using NudgeCardFactory = std::function<Card(const wumble::Toast& toast, const Screen& screen, Card* old)>;
+/// What a note tells to whoever put it up. Both may be called for as long as the note is there.
+struct NoteCalls {
+    std::function<void()> close; ///< the person wants it gone
+    std::function<void(bool inside)> hover;
+};
+
+/// Makes the card of a toast in the middle of a screen, placed but not mapped. `old` is the card on the same screen, or
+/// the only one, that it lands on; absent: none. A veil that it takes over from `old` is its own business.
+using NudgeCardFactory =
+    std::function<Card(const wumble::Toast& toast, const Screen& screen, Card* old, const NoteCalls& calls)>;
 
 } // namespace quietlark

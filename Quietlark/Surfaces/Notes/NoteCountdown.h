@@ -16,6 +16,8 @@ public:
 
     /// `done` is called once the time is up, never after the countdown was cancelled or destroyed. `loop` outlives it.
     NoteCountdown(MainLoop& loop, std::function<void()> done);
+    NoteCountdown(const NoteCountdown&) = delete;
+    NoteCountdown& operator=(const NoteCountdown&) = delete;
 
     /// Begins anew.
     void start(double seconds);
