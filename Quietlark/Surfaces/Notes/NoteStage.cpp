@@ -32,8 +32,12 @@ class NoteStage::Moved final : public QGraphicsEffect {
 public:
     explicit Moved(const NoteStage& stage) : stage_(stage) {}
 
-    QRectF boundingRectFor(const QRectF&) const override {
-        return QRectF(stage_.rect()).translated(-stage_.content_->pos());
+    /// All of the stage, seen from wherever the content's rectangle is given.
+    QRectF boundingRectFor(const QRectF& content) const override {
+        const QRectF place = stage_.content_->geometry();
+        const QRectF whole = stage_.rect();
+        return content.adjusted(whole.left() - place.left(), whole.top() - place.top(),
+                                whole.right() - place.right(), whole.bottom() - place.bottom());
     }
 
 protected:

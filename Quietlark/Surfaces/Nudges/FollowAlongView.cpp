@@ -29,7 +29,7 @@ constexpr double checkGap = 7;
 constexpr double cueRise = 5; ///< points that a new cue comes up through
 
 const TextStyle titleStyle{.token = TypeToken::title, .mostLines = mostTitleLines, .balanced = true};
-const TextStyle lineStyle{.token = TypeToken::body};
+const TextStyle lineStyle{.token = TypeToken::body, .alignment = Qt::AlignLeft | Qt::AlignVCenter};
 
 double rowHeight(const Appearance& appearance) {
     constexpr double unlimited = 10000;

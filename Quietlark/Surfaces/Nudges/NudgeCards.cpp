@@ -28,7 +28,8 @@ double degrees(const QTransform& transform) {
 }
 
 void drawString(QPainter& painter, const QRectF& card, const QTransform& hung, const Appearance& appearance) {
-    const QPointF knot = hung.map(QPointF(card.center().x(), card.top()));
+    constexpr double above = 3; ///< points that the knot stands above the card
+    const QPointF knot = hung.map(QPointF(card.center().x(), card.top() - above));
     const double lean = degrees(hung);
     HangingString{{card.center().x(), 0}, knot, -lean}.draw(painter, appearance);
     StringKnot{knot, lean}.draw(painter, appearance);

@@ -21,7 +21,7 @@ namespace {
 namespace Choreography = wumble::Choreography;
 
 /// Places on the card at scale 1.
-constexpr QRectF petPlace{10, 19, 118, 118};
+constexpr QRectF petPlace{8, 9, 122, 122};
 constexpr QRectF wordsPlace{136, 14, 188, 118};
 constexpr QRectF closePlace{7, 7, 24, 24};
 constexpr double outline = 1.5;
@@ -38,9 +38,12 @@ template <class Exercise> bool isExercise(const wumble::Toast& toast) {
     return toast.followAlong && std::holds_alternative<Exercise>(*toast.followAlong);
 }
 
+/// Up to the middle of the outline: what fills it doesn't show outside.
 QPainterPath cardShape() {
+    constexpr double inside = outline / 2;
     QPainterPath path;
-    path.addRoundedRect(QRectF({}, NudgeGeometry::cardSize), Radius::card, Radius::card);
+    path.addRoundedRect(QRectF({}, NudgeGeometry::cardSize).adjusted(inside, inside, -inside, -inside),
+                        Radius::card - inside, Radius::card - inside);
     return path;
 }
 
@@ -150,15 +153,13 @@ void ReminderView::paintEvent(QPaintEvent*) {
     drawPet(painter, appearance);
     drawWords(painter, appearance);
     if (isExercise<wumble::Toast::Blinks>(toast_) && !appearance.reduceMotion) {
-        Eyelids{card, blinkReach * Choreography::blinkShut(elapsed())}.draw(painter, palette(day_.base),
-                                                                            appearance);
+        Eyelids{card, blinkReach * Choreography::blinkShut(elapsed())}.draw(
+            painter, quietlark::palette(day_.base), appearance);
     }
     painter.setClipping(false);
     painter.setPen(QPen(colour(Role::line, appearance), outline));
     painter.setBrush(Qt::NoBrush);
-    const double inside = outline / 2;
-    painter.drawRoundedRect(card.adjusted(inside, inside, -inside, -inside), Radius::card - inside,
-                            Radius::card - inside);
+    painter.drawPath(cardShape());
 }
 
 void ReminderView::drawPet(QPainter& painter, const Appearance& appearance) {
