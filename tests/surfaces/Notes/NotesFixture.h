@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QCoreApplication>
+#include <QEnterEvent>
 
 namespace quietlark::test {
 

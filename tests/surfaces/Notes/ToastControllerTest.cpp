@@ -23,9 +23,11 @@ struct ToastControllerTest : NotesFixture {
     using NotesFixture::NotesFixture;
 
     struct StoppedReach final : CardReach {
-        explicit StoppedReach(int& stops) : stops(stops) {}
-        void stop() override { ++stops; }
-        int& stops;
+        explicit StoppedReach(int& counter) : counter_(counter) {}
+        void stop() override { ++counter_; }
+
+    private:
+        int& counter_;
     };
 
     /// A bare card as large as the screen, that says what it landed on.
@@ -46,8 +48,8 @@ struct ToastControllerTest : NotesFixture {
     Told covered;
     int stops = 0;
     NoteCalls lastCalls;
-    ToastController controller{context, [this](const Toast&, const Screen& screen, Card* old,
-                                               const NoteCalls& calls) {
+    ToastController controller{context,
+                               [this](const Toast&, const Screen& screen, Card* old, const NoteCalls& calls) {
                                    lastCalls = calls;
                                    return makeNudge(screen, old);
                                }};
@@ -206,8 +208,8 @@ TEST_F(ToastControllerTest, theCloseControlSendsItAwayAndOpensNothing) {
 
 struct WatchedToastTest : ToastControllerTest {
     explicit WatchedToastTest(bool hides = true)
-        : ToastControllerTest([hides](auto& settings) { settings.hideRemindersFromScreenRecordings = hides; }) {
-    }
+        : ToastControllerTest(
+              [hides](auto& settings) { settings.hideRemindersFromScreenRecordings = hides; }) {}
     void watch(bool watched) {
         driver.desktop.screenWatched = watched;
         driver.run(20);
