@@ -4,6 +4,8 @@
 
 #include <QFontDatabase>
 
+#include <cmath>
+
 namespace quietlark {
 
 static_assert(wumble::isInOrder(typeScale));
@@ -49,6 +51,12 @@ QFont font(TypeToken token, std::optional<QFont::Weight> weight) {
     font.setPixelSize(static_cast<int>(row.size));
     font.setStretch(row.width);
     return font;
+}
+
+QFont font(TypeToken token, const Appearance& appearance, std::optional<QFont::Weight> weight) {
+    QFont scaled = font(token, weight);
+    scaled.setPixelSize(static_cast<int>(std::lround(scaled.pixelSize() * appearance.textScale)));
+    return scaled;
 }
 
 } // namespace quietlark

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Quietlark/Theme/Appearance.h"
+
 #include <QFont>
 #include <array>
 #include <optional>
@@ -57,5 +59,8 @@ void setDisplayFamily(std::string_view family);
 /// A point is a pixel at scale 1. A face that isn't installed is the system's sans. Only body tokens heed the
 /// weight; without one they are medium, and labels are bold.
 QFont font(TypeToken token, std::optional<QFont::Weight> weight = std::nullopt);
+
+/// As large as the appearance wants text to be.
+QFont font(TypeToken token, const Appearance& appearance, std::optional<QFont::Weight> weight = std::nullopt);
 
 } // namespace quietlark
