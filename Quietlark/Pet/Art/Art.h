@@ -1,23 +1,12 @@
 #pragma once
 
+#include "Quietlark/Theme/Art.h"
+
 #include <QColor>
-#include <QPainterPath>
 #include <cstdint>
 #include <span>
 
 namespace quietlark {
-
-/// One drawn shape: a path string in the 270 box, or around its own origin for things that are put somewhere.
-/// Only literals make one, so that its address can stand for its text.
-struct Art {
-    const char* text = "";
-
-    consteval Art(const char* literal) : text(literal) {}
-    constexpr Art() = default;
-
-    /// Parsed at its first use in a thread and kept.
-    const QPainterPath& path() const;
-};
 
 /// A colour of a shape: its own, or one of the pet that wears it.
 struct Tint {
@@ -32,7 +21,7 @@ struct Tint {
 
 /// A thing is drawn as a pile of these, the lowest first.
 struct Layer {
-    Art art;
+    Art art; ///< in the 270 box, or around its own origin for things that are put somewhere
     Tint tint;
     double line = 0;         ///< width of the stroke; 0 fills
     bool silhouette = false; ///< belongs to the outline that the die-cut rim follows

@@ -34,7 +34,7 @@ TEST_F(X11Windows, onlyWindowsToBeSeenHaveRectangles) {
     const AppWindow small = openTerminal("Small", {"-geometry", "40x10+200+100"});
     EXPECT_TRUE(until([&] { return fillsAScreen(wide); }));
     EXPECT_FALSE(fillsAScreen(small));
-    EXPECT_EQ(windows->rectanglesOfProgram(small).size(), 1U);
+    EXPECT_TRUE(until([&] { return windows->rectanglesOfProgram(small).size() == 1; }));
     EXPECT_EQ(windows->rectanglesOfProgram({0, 0, "Wide"}), windows->rectanglesOfProgram(wide));
     EXPECT_EQ(windows->rectanglesOfProgram({wide.id, 0, ""}), std::vector<Rect>{}) << "nobody's windows";
 

@@ -32,8 +32,9 @@ std::string listedCategory(const std::string& category) {
 } // namespace
 
 std::optional<AppRef> LinuxApplications::frontmost() {
+    // A window of which nothing is known, as those of some window managers themselves, is no program's.
     const auto window = windows_.frontWindow();
-    if (!window) {
+    if (!window || (window->pid == 0 && window->windowClass.empty())) {
         front_.reset();
         return std::nullopt;
     }
@@ -102,8 +103,9 @@ AppInspection LinuxApplications::inspect(const AppRef& app) {
 }
 
 bool LinuxApplications::frontmostFillsAScreen() {
+    // A window of which nothing is known, as those of some window managers themselves, is no program's.
     const auto window = windows_.frontWindow();
-    if (!window) {
+    if (!window || (window->pid == 0 && window->windowClass.empty())) {
         return false;
     }
     const auto rectangles = windows_.rectanglesOfProgram(*window);

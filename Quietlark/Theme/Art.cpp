@@ -1,4 +1,4 @@
-#include "Quietlark/Pet/Art/Art.h"
+#include "Quietlark/Theme/Art.h"
 
 #include "WumbleCore/Foundation/Match.h"
 #include "WumbleCore/Motion/SVGPath.h"
