@@ -3,7 +3,7 @@
 #include "Quietlark/Surfaces/Notes/CountdownView.h"
 #include "Quietlark/Surfaces/Notes/NoteStage.h"
 #include "Quietlark/Surfaces/Notes/PillPlace.h"
-#include "Quietlark/Surfaces/Notes/WorkingScreen.h"
+#include "Quietlark/Surfaces/FloatingPanel.h"
 
 #include <utility>
 

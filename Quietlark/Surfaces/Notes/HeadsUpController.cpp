@@ -3,7 +3,7 @@
 #include "Quietlark/Model/ModelWords.h"
 #include "Quietlark/Surfaces/Notes/HeadsUpView.h"
 #include "Quietlark/Surfaces/Notes/NoteStage.h"
-#include "Quietlark/Surfaces/Notes/WorkingScreen.h"
+#include "Quietlark/Surfaces/FloatingPanel.h"
 #include "WumbleCore/Life/WumblePersonality.h"
 #include "WumbleCore/Motion/Choreography.h"
 
