@@ -1,5 +1,6 @@
 #include "Quietlark/AppDelegate.h"
 
+#include "Quietlark/Platform/Linux/Hosting/SurfaceHosts.h"
 #include "Quietlark/Platform/Linux/LinuxPlatform.h"
 #include "Quietlark/SystemCalendar.h"
 #include "WumbleCore/Storage/DataFolderLock.h"
@@ -42,12 +43,13 @@ int refuse(const std::filesystem::path& folder) {
 } // namespace
 
 AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options)
-    : platform_(makeLinuxPlatform(loop_)), sounds_(*platform_.soundOutput),
+    : platform_(makeLinuxPlatform(loop_)), host_(makeSurfaceHost()), sounds_(*platform_.soundOutput),
       model_(folder, {.mainLoop = loop_,
                       .platform = platform_,
                       .sounds = &sounds_,
                       .loginItem = platform_.loginItem.get(),
                       .calendar = systemCalendar()}),
+      surfaces_({.model = model_, .loop = loop_, .host = *host_, .windows = *platform_.windows}),
       termination_([] { QCoreApplication::quit(); }) {
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });
@@ -83,7 +85,6 @@ void AppDelegate::carryOut(const command::RunApplication& options) {
 }
 
 int runApplication(const command::RunApplication& options) {
-    TerminationSignals::hold();
     const auto folder = standardized(wumble::Storage::defaultDirectory());
     const auto lock = wumble::DataFolderLock::take(folder);
     if (!lock) {

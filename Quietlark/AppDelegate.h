@@ -4,15 +4,18 @@
 #include "Quietlark/Model/AppModel.h"
 #include "Quietlark/Model/CuePlayer.h"
 #include "Quietlark/Platform/Platform.h"
+#include "Quietlark/Platform/SurfaceHost.h"
 #include "Quietlark/QtMainLoop.h"
+#include "Quietlark/Surfaces/InstalledSurfaces.h"
 #include "Quietlark/TerminationSignals.h"
 
 #include <filesystem>
+#include <memory>
 
 namespace quietlark {
 
 /// The running program: it owns the model and what the model stands on, and saves when the process is asked to end.
-/// Needs a QCoreApplication.
+/// Needs a QApplication.
 class AppDelegate {
 public:
     /// `folder`: the data folder, whose lock the caller holds.
@@ -28,13 +31,15 @@ private:
 
     QtMainLoop loop_;
     Platform platform_;
+    std::unique_ptr<SurfaceHost> host_;
     CuePlayer sounds_;
     AppModel model_;
+    InstalledSurfaces surfaces_;
     TerminationSignals termination_;
 };
 
 /// Takes the folder and runs until the process is asked to end, or tells the copy that has the folder. Gives the exit
-/// status.
+/// status. The signals that end a process must be held before.
 int runApplication(const command::RunApplication& options);
 
 } // namespace quietlark

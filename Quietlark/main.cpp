@@ -1,7 +1,9 @@
 #include "Quietlark/AppDelegate.h"
 #include "Quietlark/CommandLine.h"
 #include "Quietlark/Diagnosis/Diagnosis.h"
+#include "Quietlark/GraphicalApplication.h"
 #include "Quietlark/Renderers/Renderers.h"
+#include "Quietlark/TerminationSignals.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -38,7 +40,9 @@ struct Process {
     }
 
     int operator()(const command::RunApplication& options) const {
-        const QCoreApplication application(argumentCount, arguments);
+        // Before the window system starts a thread, which would let the process end unsaved.
+        TerminationSignals::hold();
+        const auto application = makeGraphicalApplication(argumentCount, arguments);
         return runApplication(options);
     }
 

@@ -124,6 +124,7 @@ void drawIcon(QPainter& painter, const Key& key) {
 
 std::vector<Mood> allMoods() {
     std::vector<Mood> moods;
+    moods.reserve(steps + 3);
     for (int sleepiness = 0; sleepiness < steps; ++sleepiness) {
         moods.emplace_back(mood::Awake{sleepiness});
     }

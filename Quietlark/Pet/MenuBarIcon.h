@@ -37,7 +37,8 @@ struct Key {
     Mood mood;
     bool dark = false; ///< the panel is dark: the icon is light
 
-    auto operator<=>(const Key&) const = default;
+    auto
+    operator<=>(const Key&) const = default; // NOLINT(readability-implicit-bool-conversion): compares bools
 };
 
 /// Draws it into the largest square in the middle of `place`.

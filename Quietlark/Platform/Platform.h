@@ -1,10 +1,12 @@
 #pragma once
 
 #include "Quietlark/MainLoop.h"
+#include "Quietlark/Platform/Announcer.h"
 #include "Quietlark/Platform/Applications.h"
 #include "Quietlark/Platform/Camera.h"
 #include "Quietlark/Platform/CaptureLogRunner.h"
 #include "Quietlark/Platform/CopyNotice.h"
+#include "Quietlark/Platform/DesktopLook.h"
 #include "Quietlark/Platform/InputClock.h"
 #include "Quietlark/Platform/LoginItem.h"
 #include "Quietlark/Platform/Microphone.h"
@@ -14,6 +16,7 @@
 #include "Quietlark/Platform/SleepAssertion.h"
 #include "Quietlark/Platform/SleepHolders.h"
 #include "Quietlark/Platform/SoundOutput.h"
+#include "Quietlark/Platform/TrayItem.h"
 #include "Quietlark/Platform/WindowSystem.h"
 
 #include <memory>
@@ -38,6 +41,9 @@ struct Platform {
     std::unique_ptr<CopyNotice> copyNotice;
     std::unique_ptr<SoundOutput> soundOutput;
     std::unique_ptr<LoginItem> loginItem;
+    std::unique_ptr<DesktopLookSource> look;
+    std::unique_ptr<Announcer> announcer;
+    std::unique_ptr<TrayItem> tray;
     std::string processName; ///< of this program, as others see it
 
     /// Whether each source has given its first answers.

@@ -2,6 +2,8 @@
 
 #include "WumbleCore/Life/Vocabulary.h"
 
+#include <cmath>
+
 namespace quietlark {
 
 namespace {
@@ -29,7 +31,7 @@ constexpr std::array<SurfaceRow, 11> surfaces{{
 }};
 static_assert(wumble::isInOrder(surfaces));
 
-int mixed(int from, int to, double share) { return static_cast<int>(from + (to - from) * share + 0.5); }
+int mixed(int from, int to, double share) { return static_cast<int>(std::lround(from + (to - from) * share)); }
 
 } // namespace
 

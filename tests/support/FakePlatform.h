@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Quietlark/Platform/Platform.h"
+#include "tests/support/RecordingTrayItem.h"
 
 #include <algorithm>
 #include <map>
@@ -45,6 +46,9 @@ struct Desktop {
     std::function<void()> anotherCopyStarted;
     std::function<void()> activatedByPerson;
     std::function<void()> sessionEnding;
+
+    DesktopLook look;
+    std::vector<std::string> announcements;
 
     void setSession(const SessionState& state) {
         session = state;
@@ -170,6 +174,17 @@ struct Notice final : Answering<CopyNotice> {
     }
 };
 
+struct Look final : Answering<DesktopLookSource> {
+    using Answering::Answering;
+    const DesktopLook& look() const override { return desktop.look; }
+    void observe(std::function<void()>) override {}
+};
+
+struct Voice final : Answering<Announcer> {
+    using Answering::Answering;
+    void announce(const std::string& sentence) override { desktop.announcements.push_back(sentence); }
+};
+
 } // namespace fake
 
 /// A platform that says what stands in `desktop`, which must outlive it.
@@ -187,6 +202,9 @@ inline Platform platformOf(Desktop& desktop) {
     platform.sleepAssertion = std::make_unique<fake::Assertion>(desktop);
     platform.screenLock = std::make_unique<fake::Lock>(desktop);
     platform.copyNotice = std::make_unique<fake::Notice>(desktop);
+    platform.look = std::make_unique<fake::Look>(desktop);
+    platform.announcer = std::make_unique<fake::Voice>(desktop);
+    platform.tray = std::make_unique<RecordingTrayItem>();
     platform.processName = "quietlark";
     return platform;
 }

@@ -54,6 +54,9 @@ Platform makeLinuxPlatform(MainLoop& loop) {
     platform.sleepAssertion = std::move(bus.sleepAssertion);
     platform.screenLock = std::move(bus.screenLock);
     platform.copyNotice = std::move(bus.copyNotice);
+    platform.look = std::move(bus.look);
+    platform.announcer = std::move(bus.announcer);
+    platform.tray = std::move(bus.tray);
 
     VideoServices video = makeVideoServices(base.identity);
     platform.camera = std::move(video.camera);

@@ -121,12 +121,65 @@ def displays(bus, name):
     return name, Displays(bus, "/org/gnome/Mutter/DisplayConfig")
 
 
+def settings_portal(bus, name):
+    interface = "org.freedesktop.portal.Settings"
+
+    class Portal(dbus.service.Object):
+        values = {}
+
+        @dbus.service.method(interface, in_signature="as", out_signature="a{sa{sv}}")
+        def ReadAll(self, namespaces):
+            return {key: value for key, value in self.values.items() if key in namespaces}
+
+        @dbus.service.signal(interface, signature="ssv")
+        def SettingChanged(self, namespace, key, value):
+            pass
+
+        def order(self, namespace, key, kind, word):
+            value = {"u": dbus.UInt32, "s": dbus.String, "b": lambda w: dbus.Boolean(w == "true"),
+                     "d": lambda w: dbus.Double(float(w))}[kind](word)
+            self.values.setdefault(dbus.String(namespace), {})[dbus.String(key)] = value
+            self.SettingChanged(namespace, key, value)
+
+    return name, Portal(bus, "/org/freedesktop/portal/desktop")
+
+
+def tray_watcher(bus, name):
+    class Watcher(dbus.service.Object):
+        has_panel = True
+        items = []
+
+        @dbus.service.method(name, in_signature="s", sender_keyword="sender")
+        def RegisterStatusNotifierItem(self, service, sender=None):
+            self.items.append(service)
+
+        @dbus.service.method(dbus.PROPERTIES_IFACE, in_signature="ss", out_signature="v")
+        def Get(self, interface, property):
+            return self.has_panel if property.startswith("Is") else dbus.Array(self.items, signature="s")
+
+        @dbus.service.signal(name)
+        def StatusNotifierHostRegistered(self):
+            pass
+
+        @dbus.service.signal(name)
+        def StatusNotifierHostUnregistered(self):
+            pass
+
+        def order(self, word):
+            self.has_panel = word == "panel"
+            (self.StatusNotifierHostRegistered if self.has_panel else self.StatusNotifierHostUnregistered)()
+
+    return name, Watcher(bus, "/StatusNotifierWatcher")
+
+
 KINDS = {
     "screen-saver": screen_saver,
     "idle-monitor": idle_monitor,
     "policy-agent": policy_agent,
     "power-management": power_management,
     "displays": displays,
+    "settings-portal": settings_portal,
+    "tray-watcher": tray_watcher,
 }
 
 

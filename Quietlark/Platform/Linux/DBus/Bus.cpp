@@ -61,7 +61,7 @@ Bus::~Bus() {
 }
 
 QString Bus::sessionAddress() {
-    const QString named = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    QString named = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
     const QString socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
     if (named.isEmpty() && QFileInfo::exists(socket)) {
         return QStringLiteral("unix:path=") + socket;

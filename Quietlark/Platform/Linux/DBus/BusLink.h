@@ -57,7 +57,7 @@ private:
     };
 
     void askForOwner(const QString& name);
-    void setOwner(const QString& name, const QString& owner);
+    void setOwner(const QString& name, const QString& told);
 
     std::shared_ptr<Bus> bus_;
     QObject context_;

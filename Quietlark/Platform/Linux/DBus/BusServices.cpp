@@ -1,11 +1,14 @@
 #include "Quietlark/Platform/Linux/DBus/BusServices.h"
 
+#include "Quietlark/Platform/Linux/DBus/AccessibilityBus.h"
 #include "Quietlark/Platform/Linux/DBus/BusCopyNotice.h"
 #include "Quietlark/Platform/Linux/DBus/BusScreenLock.h"
 #include "Quietlark/Platform/Linux/DBus/BusSessionWatch.h"
 #include "Quietlark/Platform/Linux/DBus/BusSleepAssertion.h"
 #include "Quietlark/Platform/Linux/DBus/BusSleepHolders.h"
 #include "Quietlark/Platform/Linux/DBus/MutterIdleMonitor.h"
+#include "Quietlark/Platform/Linux/DBus/PortalDesktopLook.h"
+#include "Quietlark/Platform/Linux/DBus/StatusNotifierItem.h"
 
 namespace quietlark {
 
@@ -20,6 +23,9 @@ BusServices makeBusServices(MainLoop& loop, AppIdentity& identity,
             .sleepAssertion = std::make_unique<BusSleepAssertion>(buses),
             .screenLock = std::make_unique<BusScreenLock>(buses, logind),
             .copyNotice = std::make_unique<BusCopyNotice>(buses),
+            .look = std::make_unique<PortalDesktopLook>(buses.session),
+            .announcer = std::make_unique<AccessibilityBus>(buses.session),
+            .tray = std::make_unique<StatusNotifierItem>(buses.session),
             .mutterIdle = [idle] { return idle->secondsSinceAnyInput(); }};
 }
 

@@ -13,8 +13,6 @@
 #include <unistd.h>
 #include <utility>
 
-extern char** environ;
-
 namespace quietlark {
 
 namespace {

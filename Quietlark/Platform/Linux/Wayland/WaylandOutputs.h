@@ -25,7 +25,7 @@ public:
     std::vector<wumble::Rect> frames() const;
 
     /// Absent for one that is gone or switched off.
-    std::optional<wumble::Rect> frame(const wl_output* output) const;
+    std::optional<wumble::Rect> frame(const wl_output* object) const;
 
 private:
     struct Output;

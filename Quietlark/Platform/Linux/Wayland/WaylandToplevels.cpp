@@ -139,7 +139,7 @@ std::vector<wumble::Rect> WaylandToplevels::rectangles(const std::string& window
 void WaylandToplevels::activate(const AppWindow& window, wl_seat* seat) const {
     const auto found =
         std::ranges::find(toplevels_, window.id, [](const auto& toplevel) { return toplevel->id; });
-    if (found != toplevels_.end() && seat) {
+    if (found != toplevels_.end() && seat != nullptr) {
         zwlr_foreign_toplevel_handle_v1_activate((*found)->handle.get(), seat);
     }
 }

@@ -75,7 +75,7 @@ void X11Connection::ask(unsigned sequence, Answer answer) {
 bool X11Connection::takeAnswer() {
     void* reply = nullptr;
     xcb_generic_error_t* error = nullptr;
-    if (!xcb_poll_for_reply(server_->get(), questions_.front().sequence, &reply, &error)) {
+    if (xcb_poll_for_reply(server_->get(), questions_.front().sequence, &reply, &error) == 0) {
         return false;
     }
     const std::unique_ptr<void, X11Free> ownedReply(reply);

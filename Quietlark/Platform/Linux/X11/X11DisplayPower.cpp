@@ -20,7 +20,7 @@ void X11DisplayPower::ask() {
     connection_.ask(xcb_dpms_info(server.get()).sequence, [this](const void* reply) {
         const auto* info = static_cast<const xcb_dpms_info_reply_t*>(reply);
         areAsleep_ =
-            info ? std::optional(info->state && info->power_level != XCB_DPMS_DPMS_MODE_ON) : std::nullopt;
+            info ? std::optional(info->state != 0 && info->power_level != XCB_DPMS_DPMS_MODE_ON) : std::nullopt;
     });
 }
 

@@ -23,7 +23,7 @@ constexpr std::uint32_t rightButton = 3;
 
 bool X11Input::hasAnswered() const {
     const X11Server* server = connection_.server();
-    return server && (lastInput_ || !server->hasScreenSaver);
+    return server != nullptr && (lastInput_ || !server->hasScreenSaver);
 }
 
 void X11Input::take(const xcb_generic_event_t& event) {

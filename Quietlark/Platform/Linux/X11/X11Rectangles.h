@@ -36,7 +36,7 @@ private:
     using Reader = void (*)(Window& window, const void* reply, std::uint32_t known);
 
     void ask(unsigned sequence, std::size_t place, Reader reader, std::uint32_t known = 0);
-    void askWindow(std::size_t place, xcb_window_t window, std::optional<std::uint32_t> desktop);
+    void askWindow(std::size_t place, xcb_window_t id, std::optional<std::uint32_t> desktop);
     unsigned property(xcb_window_t window, X11Atom name) const;
 
     X11Connection& connection_;

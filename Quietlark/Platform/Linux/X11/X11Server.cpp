@@ -28,7 +28,7 @@ template <class Reply> std::unique_ptr<Reply, X11Free> owned(Reply* reply) {
 /// Once it has answered, requests of the extension never wait for its opcode.
 const xcb_query_extension_reply_t* present(xcb_connection_t* connection, xcb_extension_t& extension) {
     const auto* data = xcb_get_extension_data(connection, &extension);
-    return data && data->present ? data : nullptr;
+    return data && data->present != 0 ? data : nullptr;
 }
 
 bool isAtLeast(unsigned major, unsigned minor, unsigned wantedMajor, unsigned wantedMinor) {
@@ -92,7 +92,7 @@ bool canSleep(xcb_connection_t* connection) {
         return false;
     }
     const auto capable = owned(xcb_dpms_capable_reply(connection, xcb_dpms_capable(connection), nullptr));
-    return capable && capable->capable;
+    return capable && capable->capable != 0;
 }
 
 bool tellsClientIds(xcb_connection_t* connection) {
@@ -131,7 +131,7 @@ std::unique_ptr<X11Server> X11Server::connect(const std::string& display) {
     auto server = std::make_unique<X11Server>();
     int screen = 0;
     server->connection.reset(xcb_connect(display.c_str(), &screen));
-    if (xcb_connection_has_error(server->get())) {
+    if (xcb_connection_has_error(server->get()) != 0) {
         return nullptr;
     }
     server->root = rootOf(server->get(), screen);
@@ -144,7 +144,7 @@ std::unique_ptr<X11Server> X11Server::connect(const std::string& display) {
     server->hasPowerLevels = canSleep(server->get());
     server->hasClientIds = tellsClientIds(server->get());
     xcb_flush(server->get());
-    return xcb_connection_has_error(server->get()) ? nullptr : std::move(server);
+    return xcb_connection_has_error(server->get()) != 0 ? nullptr : std::move(server);
 }
 
 } // namespace quietlark

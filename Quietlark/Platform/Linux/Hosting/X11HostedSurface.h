@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Quietlark/Platform/Linux/Hosting/X11Desk.h"
+#include "Quietlark/Platform/SurfaceHost.h"
+
+#include <QWidget>
+
+#include <memory>
+
+#include <xcb/xproto.h>
+
+namespace quietlark {
+
+/// A window that no window manager knows of.
+class X11HostedSurface final : public HostedSurface {
+public:
+    /// `desk` outlives this.
+    X11HostedSurface(X11Desk& desk, std::unique_ptr<QWidget> view, const SurfaceStyle& style);
+    ~X11HostedSurface() override;
+    X11HostedSurface(const X11HostedSurface&) = delete;
+    X11HostedSurface& operator=(const X11HostedSurface&) = delete;
+
+    QWidget& view() override { return *view_; }
+    QRectF frame() const override { return frame_; }
+    void setFrame(const QRectF& frame) override;
+    bool isMapped() const override { return isMapped_; }
+    void setMapped(bool mapped) override;
+    bool isShowing() const override;
+    void bringToFront() override;
+    void setOpacity(double opacity) override;
+    bool takesPointer() const override { return takesPointer_; }
+    void setTakesPointer(bool takes) override;
+    void setOutline(const QRegion& outline) override;
+
+private:
+    class Window;
+
+    xcb_window_t id() const;
+    void makeWindow();
+    void shapeInput();
+
+    X11Desk& desk_;
+    SurfaceStyle style_;
+    std::unique_ptr<Window> window_;
+    QWidget* view_; ///< the window's
+    QRectF frame_;
+    bool isMapped_ = false;
+    bool takesPointer_;
+};
+
+} // namespace quietlark

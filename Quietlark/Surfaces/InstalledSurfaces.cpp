@@ -1,0 +1,63 @@
+#include "Quietlark/Surfaces/InstalledSurfaces.h"
+
+#include "Quietlark/Surfaces/Notes/CountdownController.h"
+#include "Quietlark/Surfaces/Notes/HeadsUpController.h"
+#include "Quietlark/Surfaces/Notes/ToastController.h"
+#include "Quietlark/Surfaces/Nudges/NudgeCards.h"
+
+namespace quietlark {
+
+/// One member for each controller; what a new one offers to the model is named in `surfaces`.
+struct InstalledSurfaces::Controllers {
+    explicit Controllers(const SurfaceContext& shared) : context(shared) {}
+
+    Surfaces surfaces() { return {.headsUp = &headsUp, .toasts = &toasts, .countdown = &countdown}; }
+
+    SurfaceContext context;
+    NudgeCards nudgeCards{context};
+    HeadsUpController headsUp{context};
+    CountdownController countdown{context};
+    ToastController toasts{context,
+                           [this](const auto& toast, const auto& screen, Card* old, const auto& calls) {
+                               return nudgeCards.make(toast, screen, old, calls);
+                           }};
+};
+
+Appearance appearanceFor(const DesktopLook& look, wumble::Appearance choice) {
+    const bool followsDesktop = choice == wumble::Appearance::system;
+    return {.dark = followsDesktop ? look.dark : choice == wumble::Appearance::dark,
+            .moreContrast = look.moreContrast,
+            .reduceMotion = look.reduceMotion,
+            .reduceTransparency = look.reduceTransparency,
+            .textScale = look.textScale};
+}
+
+InstalledSurfaces::InstalledSurfaces(const SurfaceServices& services)
+    : model_(services.model), desktopLook_(services.desktopLook),
+      settingsFollowed_(observe(model_.state().settings, [this] { refreshAppearance(); })) {
+    refreshAppearance();
+    if (desktopLook_) {
+        desktopLook_->observe([this] { refreshAppearance(); });
+    }
+    controllers_ = std::make_unique<Controllers>(SurfaceContext{.model = model_,
+                                                                .loop = services.loop,
+                                                                .host = services.host,
+                                                                .windows = services.windows,
+                                                                .accessibility = services.accessibility,
+                                                                .appearance = appearance_});
+    model_.install(controllers_->surfaces());
+}
+
+InstalledSurfaces::~InstalledSurfaces() {
+    model_.install({});
+    if (desktopLook_) {
+        desktopLook_->observe({});
+    }
+}
+
+void InstalledSurfaces::refreshAppearance() {
+    const DesktopLook look = desktopLook_ ? desktopLook_->look() : DesktopLook{};
+    appearance_ = appearanceFor(look, model_.state().settings.value().appearance);
+}
+
+} // namespace quietlark
