@@ -1,9 +1,9 @@
 #include "Quietlark/Surfaces/Notes/HeadsUpController.h"
 
 #include "Quietlark/Model/ModelWords.h"
-#include "Quietlark/Surfaces/Notes/WorkingScreen.h"
 #include "Quietlark/Surfaces/Notes/HeadsUpView.h"
 #include "Quietlark/Surfaces/Notes/NoteStage.h"
+#include "Quietlark/Surfaces/Notes/WorkingScreen.h"
 #include "WumbleCore/Life/WumblePersonality.h"
 #include "WumbleCore/Motion/Choreography.h"
 

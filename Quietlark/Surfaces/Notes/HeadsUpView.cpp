@@ -22,8 +22,9 @@ constexpr double inset = 14;
 constexpr double wordsLeft = tile + inset + 2;
 constexpr double wordsWidth = HeadsUpView::cardSize.width() - wordsLeft - inset;
 constexpr double lineGap = 2;
-constexpr double buttonsAbove = 8; ///< least space between the words and the buttons
-constexpr double buttonGap = 8;
+constexpr double buttonsAbove = 8;                    ///< least space between the words and the buttons
+constexpr double buttonGap = 8;                       ///< between faces
+constexpr double buttonMargin = PressControl::margin; ///< around a button's face, for its shadow
 constexpr double morphRise = 8; ///< points that words come up as they take the place of others
 
 constexpr wumble::Motion::Curve morphing{
@@ -36,7 +37,7 @@ const QRectF cardPlace({}, HeadsUpView::cardSize);
 const TextStyle headlineStyle{.token = TypeToken::title};
 const TextStyle statusStyle{.token = TypeToken::callout, .ink = Role::textMuted};
 
-StickerButton::Kind kind(HeadsUpWords::Button::Does does) {
+StickerButton::Kind kindOf(HeadsUpWords::Button::Does does) {
     using Does = HeadsUpWords::Button::Does;
     return does == Does::startBreak ? StickerButton::Kind::primary
            : does == Does::skip     ? StickerButton::Kind::quiet
@@ -119,7 +120,7 @@ void HeadsUpView::rebuildButtons() {
         button->deleteLater();
     }
     for (const auto& words : content_.buttons) {
-        auto* button = new StickerButton(QString::fromStdString(words.text), kind(words.does), this);
+        auto* button = new StickerButton(QString::fromStdString(words.text), kindOf(words.does), this);
         button->setAccessibleName(QString::fromStdString(words.spoken));
         button->setToolTip(QString::fromStdString(words.help));
         connect(button, &QAbstractButton::clicked, this, [this, words] { onPress(words); });
@@ -136,16 +137,16 @@ void HeadsUpView::placeButtons(const Appearance& appearance) {
         double wide = -buttonGap;
         for (StickerButton* button : buttons_) {
             setAppearance(*button, tried);
-            wide += button->sizeHint().width() + buttonGap;
+            wide += button->sizeHint().width() - 2 * buttonMargin + buttonGap;
         }
         return wide <= wordsWidth;
     });
     double left = wordsLeft;
     for (StickerButton* button : buttons_) {
         const QSizeF size = button->sizeHint();
-        const double top = cardSize.height() - inset - size.height();
-        button->setGeometry(QRectF(QPointF(left, top), size).toRect());
-        left += size.width() + buttonGap;
+        const double top = cardSize.height() - inset - Lift::raised - size.height() + buttonMargin;
+        button->setGeometry(QRectF(QPointF(left - buttonMargin, top), size).toRect());
+        left += size.width() - 2 * buttonMargin + buttonGap;
     }
 }
 
@@ -207,7 +208,8 @@ void HeadsUpView::paintEvent(QPaintEvent*) {
 }
 
 void HeadsUpView::drawWords(QPainter& painter, const Appearance& wanted) const {
-    const double above = buttons_.empty() ? cardSize.height() : buttons_.front()->geometry().top();
+    const double above =
+        buttons_.empty() ? cardSize.height() : buttons_.front()->geometry().top() + buttonMargin;
     const double room = above - buttonsAbove - inset;
     const auto appearance = withFittingText(wanted, [&](const Appearance& tried) {
         const QString headline = QString::fromStdString(content_.headline);

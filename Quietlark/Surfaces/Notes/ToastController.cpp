@@ -1,10 +1,10 @@
 #include "Quietlark/Surfaces/Notes/ToastController.h"
 
 #include "Quietlark/Model/ModelWords.h"
-#include "Quietlark/Surfaces/Notes/WorkingScreen.h"
 #include "Quietlark/Surfaces/Notes/NoteStage.h"
 #include "Quietlark/Surfaces/Notes/ReminderSharing.h"
 #include "Quietlark/Surfaces/Notes/ToastView.h"
+#include "Quietlark/Surfaces/Notes/WorkingScreen.h"
 #include "WumbleCore/Foundation/Match.h"
 
 #include <algorithm>
