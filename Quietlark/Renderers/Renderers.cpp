@@ -19,7 +19,6 @@ constexpr std::array table{
     Renderer{"--nudge-clips", "build/nudges", renderNudgeClips},
     Renderer{"--motion-clips", "build/motion", renderMotion},
     Renderer{"--nudge-cards", "build/nudge-cards", renderNudgeCards},
-    Renderer{"--break-screens", "build/break-screens", renderBreakScreens},
     Renderer{"--export-sounds", "build/sounds", exportSounds},
     Renderer{"--looks-sheets", "build/looks", renderLooks},
 };
