@@ -32,4 +32,7 @@ bool renderNudgeClips(const std::filesystem::path& folder, Appearance appearance
 /// The three nudges as cards, at the moments that matter.
 bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance);
 
+/// The break screen in each of its states, at one and two pixels a point.
+bool renderBreakScreens(const std::filesystem::path& folder, Appearance appearance);
+
 } // namespace quietlark
