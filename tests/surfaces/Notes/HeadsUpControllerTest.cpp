@@ -11,7 +11,8 @@ namespace {
 struct HeadsUpControllerTest : NotesFixture {
     explicit HeadsUpControllerTest(const std::function<void(wumble::WumbleSettings&)>& choose =
                                        [](auto& settings) {
-                                           settings.headsUpLead = 60;
+                                           settings.headsUp = wumble::HeadsUpMode::all;
+                settings.headsUpLead = 60;
                                            settings.headsUpVisibleFor = 10;
                                        })
         : NotesFixture(choose) {
@@ -20,11 +21,7 @@ struct HeadsUpControllerTest : NotesFixture {
 
     /// Until the model announces the next break.
     RecordedSurface& awaitCard() {
-        for (int second = 0; second < 4 * 3600 && host.top("heads-up") == nullptr; ++second) {
-            driver.loop.advance(1);
-        }
-        EXPECT_NE(host.top("heads-up"), nullptr);
-        return *host.top("heads-up");
+        return await("heads-up");
     }
 
     static NoteStage& stage(RecordedSurface& surface) { return dynamic_cast<NoteStage&>(surface.view()); }
