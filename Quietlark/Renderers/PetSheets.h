@@ -26,7 +26,10 @@ bool renderIconOptions(const std::filesystem::path& folder, Appearance appearanc
 /// Each cue as a WAV file by its name, whatever the appearance.
 bool exportSounds(const std::filesystem::path& folder, Appearance appearance);
 
-/// The three nudges as cards.
+/// The three nudges from their arrival to their exit, frame by frame.
+bool renderNudgeClips(const std::filesystem::path& folder, Appearance appearance);
+
+/// The three nudges as cards, at the moments that matter.
 bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance);
 
 } // namespace quietlark

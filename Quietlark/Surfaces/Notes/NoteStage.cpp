@@ -32,8 +32,12 @@ class NoteStage::Moved final : public QGraphicsEffect {
 public:
     explicit Moved(const NoteStage& stage) : stage_(stage) {}
 
-    QRectF boundingRectFor(const QRectF&) const override {
-        return QRectF(stage_.rect()).translated(-stage_.content_->pos());
+    /// All of the stage, seen from wherever the content's rectangle is given.
+    QRectF boundingRectFor(const QRectF& content) const override {
+        const QRectF place = stage_.content_->geometry();
+        const QRectF whole = stage_.rect();
+        return content.adjusted(whole.left() - place.left(), whole.top() - place.top(),
+                                whole.right() - place.right(), whole.bottom() - place.bottom());
     }
 
 protected:
@@ -160,8 +164,14 @@ void NoteStage::drawShadow(QPainter& painter, const wumble::NotePose& pose) cons
         return;
     }
     const double height = setting_.lift + pose.air;
-    const auto shape = moved(pose).map(rounded(setting_.card, setting_.radius)).translated(height, height);
-    painter.fillPath(shape, colour(Role::shadow, appearanceOf(*this)));
+    const auto& card = setting_.card;
+    const auto place = moved(pose);
+    const auto shape = place.map(rounded(card, setting_.radius)).translated(height, height);
+    // Not under the card: a note that fades would let it through.
+    constexpr double underTheEdge = 1;
+    const auto inside = card.adjusted(underTheEdge, underTheEdge, -underTheEdge, -underTheEdge);
+    painter.fillPath(shape.subtracted(place.map(rounded(inside, setting_.radius - underTheEdge))),
+                     colour(Role::shadow, appearanceOf(*this)));
 }
 
 void NoteStage::drawLids(QPainter& painter, double shut) const {

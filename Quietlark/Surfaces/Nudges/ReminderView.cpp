@@ -7,6 +7,7 @@
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Controls/IconButton.h"
 #include "Quietlark/Theme/Sizes.h"
+#include "Quietlark/Theme/Sticker.h"
 #include "WumbleCore/Motion/Choreography.h"
 
 #include <QMouseEvent>
@@ -21,7 +22,7 @@ namespace {
 namespace Choreography = wumble::Choreography;
 
 /// Places on the card at scale 1.
-constexpr QRectF petPlace{10, 19, 118, 118};
+constexpr QRectF petPlace{8, 9, 122, 122};
 constexpr QRectF wordsPlace{136, 14, 188, 118};
 constexpr QRectF closePlace{7, 7, 24, 24};
 constexpr double outline = 1.5;
@@ -38,9 +39,12 @@ template <class Exercise> bool isExercise(const wumble::Toast& toast) {
     return toast.followAlong && std::holds_alternative<Exercise>(*toast.followAlong);
 }
 
+/// Up to the middle of the outline: what fills it doesn't show outside.
 QPainterPath cardShape() {
+    constexpr double inside = outline / 2;
     QPainterPath path;
-    path.addRoundedRect(QRectF({}, NudgeGeometry::cardSize), Radius::card, Radius::card);
+    path.addRoundedRect(QRectF({}, NudgeGeometry::cardSize).adjusted(inside, inside, -inside, -inside),
+                        Radius::card - inside, Radius::card - inside);
     return path;
 }
 
@@ -63,7 +67,9 @@ ReminderView::ReminderView(const wumble::Toast& toast, const wumble::WumbleDay& 
         pet_.react(wumble::WumbleGesture::nod, follow_->end() - elapsed());
     }
     if (toast.closable) {
-        close_ = new IconButton(Symbol::close, QStringLiteral("Close"), this);
+        auto* control = new IconButton(Symbol::close, QStringLiteral("Close"), this);
+        control->setIconSize(IconSize::small * scale);
+        close_ = control;
         close_->setGeometry(scaled(closePlace, scale).toRect());
         close_->hide();
         connect(close_, &QAbstractButton::clicked, this, [this] { close(); });
@@ -75,6 +81,7 @@ ReminderView::~ReminderView() = default;
 void ReminderView::setReached(bool reached) {
     if (close_ != nullptr) {
         close_->setVisible(reached);
+        update();
     }
 }
 
@@ -150,15 +157,16 @@ void ReminderView::paintEvent(QPaintEvent*) {
     drawPet(painter, appearance);
     drawWords(painter, appearance);
     if (isExercise<wumble::Toast::Blinks>(toast_) && !appearance.reduceMotion) {
-        Eyelids{card, blinkReach * Choreography::blinkShut(elapsed())}.draw(painter, palette(day_.base),
-                                                                            appearance);
+        Eyelids{card, blinkReach * Choreography::blinkShut(elapsed())}.draw(
+            painter, quietlark::palette(day_.base), appearance);
     }
     painter.setClipping(false);
+    if (close_ != nullptr && close_->isVisible()) {
+        drawSticker(painter, closePlace, {.radius = closePlace.width() / 2, .lift = Lift::flat}, appearance);
+    }
     painter.setPen(QPen(colour(Role::line, appearance), outline));
     painter.setBrush(Qt::NoBrush);
-    const double inside = outline / 2;
-    painter.drawRoundedRect(card.adjusted(inside, inside, -inside, -inside), Radius::card - inside,
-                            Radius::card - inside);
+    painter.drawPath(cardShape());
 }
 
 void ReminderView::drawPet(QPainter& painter, const Appearance& appearance) {

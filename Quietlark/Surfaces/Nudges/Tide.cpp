@@ -47,9 +47,9 @@ void TideFill::draw(QPainter& painter, const QRectF& basin, const Appearance& ap
     const double height = lowest + (highest - lowest) * std::clamp(level, 0.0, 1.0);
     const QColor near = colour(Role::tide, appearance);
     QColor far = near;
-    far.setAlphaF(farTint);
-    QColor crest = colour(Role::card, appearance);
-    crest.setAlphaF(appearance.dark ? 0.35 : 0.8);
+    far.setAlphaF(static_cast<float>(farTint));
+    QColor crest(Qt::white);
+    crest.setAlphaF(appearance.dark ? 0.3F : 0.8F);
     painter.save();
     painter.setPen(Qt::NoPen);
     painter.setBrush(far);

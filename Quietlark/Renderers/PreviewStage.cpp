@@ -1,0 +1,52 @@
+#include "Quietlark/Renderers/PreviewStage.h"
+
+#include "Quietlark/Renderers/PetCells.h"
+#include "WumbleCore/Life/DayKey.h"
+
+#include <QEventLoop>
+#include <QTimer>
+
+namespace quietlark {
+
+namespace {
+
+constexpr int oneFrame = 20; ///< milliseconds in which everything that moves is drawn once
+constexpr QSizeF screenSize{1280, 800};
+constexpr wumble::Date monday{1773046800}; ///< 9 March 2026, 9:00 in UTC
+
+/// What a program that was closed over the weekend would have left.
+std::filesystem::path furnish(const QTemporaryDir& folder, const PreviewStage::Choose& choose, int revealed) {
+    const std::filesystem::path path = folder.path().toStdString();
+    wumble::Storage storage(path);
+    wumble::WumbleSettings settings;
+    choose(settings);
+    storage.save(settings);
+    wumble::WumbleLife life;
+    life.welcomed = true;
+    const wumble::Calendar calendar;
+    const std::string today = wumble::DayKey::string(calendar.day(monday));
+    auto pet = samplePet(wumble::WumbleBase::sakura, revealed, 2);
+    pet.day = today;
+    life.days[today] = pet;
+    life.greetedDay = today;
+    storage.save(life);
+    return path;
+}
+
+} // namespace
+
+PreviewStage::PreviewStage(const Appearance& look, const Choose& choose, int revealed)
+    : loop(monday), platform(makePreviewPlatform(machine)), host(screenSize), appearance(look),
+      model(furnish(folder_, choose, revealed), {.mainLoop = loop,
+                                                 .platform = platform,
+                                                 .calendar = wumble::Calendar(),
+                                                 .random = [](std::uint64_t) { return 0; }}) {}
+
+void PreviewStage::advance(double seconds) {
+    loop.advance(seconds);
+    QEventLoop frames;
+    QTimer::singleShot(oneFrame, &frames, &QEventLoop::quit);
+    frames.exec();
+}
+
+} // namespace quietlark

@@ -1,0 +1,66 @@
+#include "Quietlark/Surfaces/TextBlock.h"
+
+#include "Quietlark/Theme/AppearanceScope.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quietlark {
+
+namespace {
+
+constexpr double widestWish = 420;
+constexpr int narrowest = 24;
+
+} // namespace
+
+TextBlock::TextBlock(const QString& text, const TextStyle& style, QWidget* parent)
+    : QWidget(parent), text_(text), style_(style) {
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    setAccessibleName(text);
+}
+
+void TextBlock::setText(const QString& text) {
+    if (text == text_) {
+        return;
+    }
+    const QSize before = sizeHint();
+    text_ = text;
+    setAccessibleName(text);
+    if (before != sizeHint()) {
+        updateGeometry();
+    }
+    update();
+}
+
+void TextBlock::setStyle(const TextStyle& style) {
+    style_ = style;
+    updateGeometry();
+    update();
+}
+
+QSize TextBlock::sizeHint() const {
+    const Appearance look = appearanceOf(*this);
+    const QSizeF size = measureText(text_, style_, widestWish * look.textScale, look);
+    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+}
+
+QSize TextBlock::minimumSizeHint() const {
+    const QSize whole = sizeHint();
+    return {std::min(narrowest, whole.width()), whole.height()};
+}
+
+int TextBlock::heightForWidth(int width) const {
+    return static_cast<int>(std::ceil(measureText(text_, style_, width, appearanceOf(*this)).height()));
+}
+
+void TextBlock::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawText(painter, rect(), text_, style_, appearanceOf(*this));
+}
+
+} // namespace quietlark
