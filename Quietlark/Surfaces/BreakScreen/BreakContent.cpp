@@ -129,7 +129,7 @@ void Telling::tellRest(bool isPrimary, const std::optional<wumble::ActiveBreak>&
 
 void Telling::tellReveal(bool isPrimary, const screen::Celebrating& phase) {
     const auto& reveal = stage.reveal.value();
-    const bool isPopped = !reveal || reveal->beats(now).popped;
+    const bool isPopped = reveal && reveal->beats(now).popped;
     const bool grew = revealGrew(content.pet, phase.announcement);
     if (grew && !isPopped) {
         content.pet.rests = content.pet.revealed() - 1;
@@ -220,6 +220,7 @@ BreakContent breakContent(const AppModel& model, const BreakStage& stage, bool i
     BreakContent& content = telling.content;
     content.scene = sceneOf(phase, shown, now, telling.settings().holdUntilEndPressed);
     content.pet = model.state().today.value();
+    content.isPrimary = isPrimary;
     content.petSize = isPrimary ? primaryPet : otherPet;
     telling.tellClock(isPrimary, shown);
     if (phase) {
