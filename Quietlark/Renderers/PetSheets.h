@@ -32,4 +32,7 @@ bool renderNudgeClips(const std::filesystem::path& folder, Appearance appearance
 /// The three nudges as cards, at the moments that matter.
 bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance);
 
+/// The popover of the tray in the states that it comes in.
+bool renderTrayPictures(const std::filesystem::path& folder, Appearance appearance);
+
 } // namespace quietlark

@@ -20,6 +20,7 @@ constexpr std::array table{
     Renderer{"--motion-clips", "build/motion", renderMotion},
     Renderer{"--nudge-cards", "build/nudge-cards", renderNudgeCards},
     Renderer{"--export-sounds", "build/sounds", exportSounds},
+    Renderer{"--ux-review", "build/ux", renderTrayPictures},
     Renderer{"--looks-sheets", "build/looks", renderLooks},
 };
 
