@@ -11,8 +11,8 @@ constexpr double around = 20; ///< points
 } // namespace
 
 NudgeShow::NudgeShow(const wumble::Toast& toast, const Appearance& look, const PreviewStage::Choose& choose)
-    : stage(look, choose), cards_(stage.context(), [](const wumble::UUID&) {}),
-      card_(cards_.make(toast, stage.host.screen(), nullptr)), arrived_(stage.loop.now()) {
+    : stage(look, choose), cards_(stage.context()),
+      card_(cards_.make(toast, stage.host.screen(), nullptr, {})), arrived_(stage.loop.now()) {
     card_->setMapped(true);
     part_ = card_->surface->frame().adjusted(-around, -around, around, around) & stage.host.screen().frame;
 }

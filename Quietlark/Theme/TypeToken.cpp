@@ -1,5 +1,7 @@
 #include "Quietlark/Theme/TypeToken.h"
 
+#include "Quietlark/Theme/EmbeddedFonts.h"
+
 #include "WumbleCore/Life/Vocabulary.h"
 
 #include <QFontDatabase>
@@ -12,44 +14,58 @@ static_assert(wumble::isInOrder(typeScale));
 
 namespace {
 
-QString& displayFamily() {
-    static QString family;
-    return family;
-}
+constexpr int usualWidth = 100;
 
-QString installed(const QString& family) {
-    const bool known = !family.isEmpty() && QFontDatabase::hasFamily(family);
-    return known ? family : QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
-}
+/// Registers what is embedded, without copying it, and knows what that brought.
+struct Faces {
+    bool areEmbedded = false;
+    QString fallback = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
 
-QFont face(Typeface typeface, std::optional<QFont::Weight> weight) {
-    QFont font;
-    switch (typeface) {
-    case Typeface::display:
-        font.setFamily(installed(displayFamily()));
-        font.setWeight(QFont::Bold);
-        break;
-    case Typeface::body:
-        font.setFamily(installed(QString::fromUtf8(Fonts::body)));
-        font.setWeight(weight.value_or(QFont::Medium));
-        break;
-    case Typeface::monospaced:
-        font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-        font.setWeight(QFont::Bold);
-        break;
+    Faces() {
+        for (const std::string_view file : embeddedFonts()) {
+            const auto data = QByteArray::fromRawData(file.data(), static_cast<qsizetype>(file.size()));
+            areEmbedded = QFontDatabase::addApplicationFontFromData(data) >= 0;
+        }
     }
+
+    QString family(const char* name) const { return areEmbedded ? QString::fromLatin1(name) : fallback; }
+};
+
+const Faces& faces() {
+    static const Faces known;
+    return known;
+}
+
+QFont displayFace(int width) {
+    const bool isNarrow = width != usualWidth;
+    QFont font(faces().family(isNarrow ? Fonts::numerals : Fonts::display));
+    font.setWeight(QFont::Bold);
+    if (isNarrow && !faces().areEmbedded) {
+        font.setStretch(width);
+    }
+    return font;
+}
+
+QFont bodyFace(QFont::Weight weight) {
+    QFont font(faces().family(Fonts::body));
+    font.setWeight(weight);
+    return font;
+}
+
+QFont labelFace() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setWeight(QFont::Bold);
     return font;
 }
 
 } // namespace
 
-void Fonts::setDisplayFamily(std::string_view family) { displayFamily() = QString::fromUtf8(family); }
-
 QFont font(TypeToken token, std::optional<QFont::Weight> weight) {
     const auto& row = wumble::rowOf(typeScale, token);
-    QFont font = face(row.typeface, weight);
+    QFont font = row.typeface == Typeface::display ? displayFace(row.width)
+                 : row.typeface == Typeface::body  ? bodyFace(weight.value_or(QFont::Medium))
+                                                   : labelFace();
     font.setPixelSize(static_cast<int>(row.size));
-    font.setStretch(row.width);
     return font;
 }
 

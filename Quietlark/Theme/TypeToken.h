@@ -47,16 +47,17 @@ inline constexpr std::array<TypeRow, 11> typeScale{{
     {TypeToken::label, Typeface::monospaced, 11},
 }};
 
+/// The families of the faces. Those that are part of the program are known from the first `font` on.
 namespace Fonts {
 
-inline constexpr std::string_view body = "Figtree";
-
-/// The family of the display face; empty for the system's own, which stands in until one is registered.
-void setDisplayFamily(std::string_view family);
+inline constexpr const char* body = "Figtree";
+inline constexpr const char* display = "Bricolage Grotesque";
+inline constexpr const char* numerals = "Bricolage Numerals"; ///< the display face at its narrow width
 
 } // namespace Fonts
 
-/// A point is a pixel at scale 1. A face that isn't installed is the system's sans. Only body tokens heed the
+/// A point is a pixel at scale 1. A face that the program was built without is the
+/// system's sans. Only body tokens heed the
 /// weight; without one they are medium, and labels are bold.
 QFont font(TypeToken token, std::optional<QFont::Weight> weight = std::nullopt);
 

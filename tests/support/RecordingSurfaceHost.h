@@ -18,9 +18,9 @@ class RecordedSurface final : public HostedSurface {
 public:
     using Registry = std::shared_ptr<std::vector<RecordedSurface*>>;
 
-    RecordedSurface(std::unique_ptr<QWidget> view, const SurfaceStyle& style, Registry registry)
-        : style(style), view_(std::move(view)), registry_(std::move(registry)),
-          takesPointer_(style.takesPointer) {
+    RecordedSurface(std::unique_ptr<QWidget> view, const SurfaceStyle& asked, Registry registry)
+        : style(asked), view_(std::move(view)), registry_(std::move(registry)),
+          takesPointer_(asked.takesPointer) {
         registry_->push_back(this);
     }
     ~RecordedSurface() override { std::erase(*registry_, this); }

@@ -129,7 +129,7 @@ void Telling::tellRest(bool isPrimary, const std::optional<wumble::ActiveBreak>&
 
 void Telling::tellReveal(bool isPrimary, const screen::Celebrating& phase) {
     const auto& reveal = stage.reveal.value();
-    const bool isPopped = !reveal || reveal->beats(now).popped;
+    const bool isPopped = reveal && reveal->beats(now).popped;
     const bool grew = revealGrew(content.pet, phase.announcement);
     if (grew && !isPopped) {
         content.pet.rests = content.pet.revealed() - 1;

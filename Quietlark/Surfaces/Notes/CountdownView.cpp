@@ -33,17 +33,17 @@ const TextStyle firstStyle{.token = TypeToken::caption, .ink = Role::onPop};
 const TextStyle numberStyle{.token = TypeToken::numeralSmall, .ink = Role::onPop};
 const TextStyle verbStyle{.token = TypeToken::body, .ink = Role::onPop, .weight = QFont::Bold};
 
-const TextStyle& secondStyle(const HeadsUpWords::Countdown& words) {
+const TextStyle& secondStyle(const HeadsUpWords::Pill& words) {
     return words.waitsForTyping ? verbStyle : numberStyle;
 }
 
-double heightOf(const HeadsUpWords::Countdown& words, const Appearance& appearance) {
+double heightOf(const HeadsUpWords::Pill& words, const Appearance& appearance) {
     return measureText(QString::fromStdString(words.first), firstStyle, widestWords, appearance).height() +
            measureText(QString::fromStdString(words.second), secondStyle(words), widestWords, appearance)
                .height();
 }
 
-Appearance fitting(const HeadsUpWords::Countdown& words, const Appearance& wanted) {
+Appearance fitting(const HeadsUpWords::Pill& words, const Appearance& wanted) {
     return withFittingText(wanted, [&](const Appearance& tried) {
         const auto isWhole = [&](const std::string& text, const TextStyle& style) {
             const auto line = QString::fromStdString(text);
@@ -54,7 +54,7 @@ Appearance fitting(const HeadsUpWords::Countdown& words, const Appearance& wante
     });
 }
 
-double widthOf(const HeadsUpWords::Countdown& words, const Appearance& appearance) {
+double widthOf(const HeadsUpWords::Pill& words, const Appearance& appearance) {
     const auto width = [&](const std::string& text, const TextStyle& style) {
         return measureText(QString::fromStdString(text), style, widestWords, appearance).width();
     };
@@ -63,9 +63,9 @@ double widthOf(const HeadsUpWords::Countdown& words, const Appearance& appearanc
 
 /// The widest of all that the pill may come to say while it is there.
 double wordsWidth(const AppState& state, const Appearance& appearance) {
-    double widest = widthOf(HeadsUpWords::countdown(state, false), appearance);
+    double widest = widthOf(HeadsUpWords::pill(state, false), appearance);
     for (const char* verb : {"finish dragging", "finish dictating", "finish typing"}) {
-        const HeadsUpWords::Countdown waiting{.waitsForTyping = true, .first = "Break waits", .second = verb};
+        const HeadsUpWords::Pill waiting{.waitsForTyping = true, .first = "Break waits", .second = verb};
         widest = std::max(widest, widthOf(waiting, fitting(waiting, appearance)));
     }
     return std::min(widest, widestWords);
@@ -79,8 +79,7 @@ QColor between(const QColor& from, const QColor& to, double share) {
                             mix(from.blueF(), to.blueF()));
 }
 
-void drawLines(QPainter& painter, const HeadsUpWords::Countdown& words, double width,
-               const Appearance& wanted) {
+void drawLines(QPainter& painter, const HeadsUpWords::Pill& words, double width, const Appearance& wanted) {
     const auto appearance = fitting(words, wanted);
     const double room = width - wordsLeft - wordsRight / 2;
     const auto line = [&](const std::string& text, const TextStyle& style, double top) {
@@ -118,7 +117,7 @@ void CountdownView::refresh() {
     }
     const auto& state = model_.state();
     typedAlong_ = typedAlong_ || state.typingNow.value();
-    auto fresh = HeadsUpWords::countdown(state, typedAlong_);
+    auto fresh = HeadsUpWords::pill(state, typedAlong_);
     pet_.view().setMood(fresh.waitsForTyping ? typingAlongMood(state) : wumble::WumbleMood::peek);
     if (fresh == words_) {
         return;
@@ -154,7 +153,7 @@ void CountdownView::paintEvent(QPaintEvent*) {
     const auto appearance = appearanceOf(*this);
     pet_.view().setAppearance(appearance);
     const double share = before_.first.empty() ? 1 : turned();
-    const auto fill = [&](const HeadsUpWords::Countdown& words) {
+    const auto fill = [&](const HeadsUpWords::Pill& words) {
         return colour(words.waitsForTyping ? Surface::wumble : Surface::time, appearance);
     };
     QPainter painter(this);

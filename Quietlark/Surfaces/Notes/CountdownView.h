@@ -41,8 +41,8 @@ private:
     std::shared_ptr<const ObservedPresence> presence_;
     double width_ = 0;
     NotePet pet_;
-    HeadsUpWords::Countdown words_;
-    HeadsUpWords::Countdown before_; ///< what it said before it turned
+    HeadsUpWords::Pill words_;
+    HeadsUpWords::Pill before_; ///< what it said before it turned
     wumble::Date turnedAt_;
     bool typedAlong_ = false; ///< the person has worked on while the pill was there
     FrameTicker frames_;

@@ -130,7 +130,7 @@ std::vector<Button> buttons(const Choices& choices) {
     return row;
 }
 
-Countdown countdown(const AppState& state, bool typedAlong) {
+Pill pill(const AppState& state, bool typedAlong) {
     const bool waits = typedAlong && holdsForTyping(state) && state.secondsUntilBreak.value() <= 0;
     if (waits) {
         return {.waitsForTyping = true,

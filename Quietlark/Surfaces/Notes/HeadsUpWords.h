@@ -48,16 +48,16 @@ Choices choices(const AppModel& model);
 std::vector<Button> buttons(const Choices& choices);
 
 /// What the pill says.
-struct Countdown {
+struct Pill {
     bool waitsForTyping = false;
     std::string first;
     std::string second;
 
-    bool operator==(const Countdown&) const = default;
+    bool operator==(const Pill&) const = default;
 };
 
 /// `typedAlong`: the person has typed while the pill was there.
-Countdown countdown(const AppState& state, bool typedAlong);
+Pill pill(const AppState& state, bool typedAlong);
 
 /// The whole seconds that the pill shows.
 wumble::Counter secondsLeft(const AppState& state);

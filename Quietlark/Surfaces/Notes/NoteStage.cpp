@@ -164,8 +164,14 @@ void NoteStage::drawShadow(QPainter& painter, const wumble::NotePose& pose) cons
         return;
     }
     const double height = setting_.lift + pose.air;
-    const auto shape = moved(pose).map(rounded(setting_.card, setting_.radius)).translated(height, height);
-    painter.fillPath(shape, colour(Role::shadow, appearanceOf(*this)));
+    const auto& card = setting_.card;
+    const auto place = moved(pose);
+    const auto shape = place.map(rounded(card, setting_.radius)).translated(height, height);
+    // Not under the card: a note that fades would let it through.
+    constexpr double underTheEdge = 1;
+    const auto inside = card.adjusted(underTheEdge, underTheEdge, -underTheEdge, -underTheEdge);
+    painter.fillPath(shape.subtracted(place.map(rounded(inside, setting_.radius - underTheEdge))),
+                     colour(Role::shadow, appearanceOf(*this)));
 }
 
 void NoteStage::drawLids(QPainter& painter, double shut) const {

@@ -1,5 +1,6 @@
 #include "Quietlark/Surfaces/Nudges/FollowAlongView.h"
 
+#include "Quietlark/Surfaces/Notes/NoteFace.h"
 #include "Quietlark/Theme/Role.h"
 #include "Quietlark/Theme/Sizes.h"
 #include "Quietlark/Theme/Symbol.h"
@@ -15,8 +16,6 @@ namespace quietlark {
 namespace {
 
 constexpr double gap = 8;
-constexpr double smallestText = 0.7; ///< of the usual size
-constexpr double textStep = 0.05;
 constexpr int mostTitleLines = 4;
 
 constexpr double dot = 8; ///< points across
@@ -26,6 +25,7 @@ constexpr int mostDots = 6; ///< more of them would only be counted, not seen
 
 constexpr double checkSize = 20;
 constexpr double checkGap = 7;
+constexpr double half = 0.5;  ///< of the way from one cue to the next
 constexpr double cueRise = 5; ///< points that a new cue comes up through
 
 const TextStyle titleStyle{.token = TypeToken::title, .mostLines = mostTitleLines, .balanced = true};
@@ -42,19 +42,12 @@ double titleHeight(const QString& title, double width, const Appearance& appeara
     return measureText(title, whole, width, appearance).height();
 }
 
-/// The appearance in which title and line have room.
-Appearance fitted(const QString& title, const QSizeF& room, Appearance appearance) {
-    while (appearance.textScale > smallestText &&
-           titleHeight(title, room.width(), appearance) + gap + rowHeight(appearance) > room.height()) {
-        appearance.textScale -= textStep;
-    }
-    return appearance;
-}
-
 } // namespace
 
 void FollowAlongView::draw(QPainter& painter, const QRectF& place, const Appearance& appearance) const {
-    const Appearance fits = fitted(title, place.size(), appearance);
+    const Appearance fits = withFittingText(appearance, [&](const Appearance& tried) {
+        return titleHeight(title, place.width(), tried) + gap + rowHeight(tried) <= place.height();
+    });
     const double row = rowHeight(fits);
     const double most = place.height() - gap - row;
     const double high = std::min(measureText(title, titleStyle, place.width(), fits).height(), most);
@@ -77,12 +70,14 @@ void FollowAlongView::drawLine(QPainter& painter, const QRectF& row, const Appea
     if (cue == nullptr) {
         return;
     }
-    const double presence =
-        reduceMotion || cue->from <= 0 ? 1 : wumble::Motion::fade.value(elapsed - cue->from);
-    if (const auto* leaving = follow->before(*cue)) {
-        drawCue(painter, words, *leaving, presence - 1, appearance);
+    // The old words are gone before the new ones can be read.
+    const double way = reduceMotion || cue->from <= 0 ? 1 : wumble::Motion::fade.value(elapsed - cue->from);
+    if (const auto* leaving = follow->before(*cue); leaving != nullptr && way < half) {
+        drawCue(painter, words, *leaving, way / half - 1, appearance);
     }
-    drawCue(painter, words, *cue, presence, appearance);
+    if (way > half) {
+        drawCue(painter, words, *cue, (way - half) / (1 - half), appearance);
+    }
 }
 
 /// `presence`: 0 to 1 for one that comes, -1 to 0 for one that goes.

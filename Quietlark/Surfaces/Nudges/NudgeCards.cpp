@@ -68,8 +68,7 @@ NoteSetting settingFor(const NudgeGeometry::Panel& panel, double scale, wumble::
 
 } // namespace
 
-NudgeCards::NudgeCards(const SurfaceContext& context, std::function<void(const wumble::UUID&)> dismiss)
-    : context_(context), dismiss_(std::move(dismiss)) {}
+NudgeCards::NudgeCards(const SurfaceContext& context) : context_(context) {}
 
 wumble::Date NudgeCards::arrivalOf(const wumble::Toast& toast) {
     if (!arrival_ || arrival_->toast != toast.id) {
@@ -78,7 +77,7 @@ wumble::Date NudgeCards::arrivalOf(const wumble::Toast& toast) {
     return arrival_->at;
 }
 
-Card NudgeCards::make(const wumble::Toast& toast, const Screen& screen, Card* old) {
+Card NudgeCards::make(const wumble::Toast& toast, const Screen& screen, Card* old, const NoteCalls& calls) {
     const auto& settings = context_.model.state().settings.value();
     const auto& today = context_.model.state().today.value();
     const auto entrance = NudgeGeometry::entrance(toast.followAlong);
@@ -96,7 +95,7 @@ Card NudgeCards::make(const wumble::Toast& toast, const Screen& screen, Card* ol
         wumble::NotePresence{.arrived = arrived, .covering = old != nullptr, .entrance = entrance});
     auto made = std::make_unique<ReminderView>(toast, today, scale, context_.loop, arrived);
     ReminderView* view = made.get();
-    view->setOnClose([this, id = toast.id] { dismiss_(id); });
+    view->setOnClose(calls.close);
     auto setting = settingFor(panel, scale, entrance, screen, today.base, context_.appearance);
     setting.sizePet = [view](double size) { view->setPetScale(size); };
     card.surface = hostNote(context_, std::move(made), card.presence, std::move(setting),

@@ -5,7 +5,6 @@
 #include "Quietlark/Surfaces/SurfaceContext.h"
 #include "WumbleCore/Foundation/UUID.h"
 
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -17,12 +16,11 @@ class ReminderView;
 /// Makes the cards of nudges, one a screen, as the person wants them sized, placed and dimmed.
 class NudgeCards {
 public:
-    /// `dismiss` is told which toast the person closed. What it stands on outlives it and its cards.
-    NudgeCards(const SurfaceContext& context, std::function<void(const wumble::UUID& toast)> dismiss);
+    explicit NudgeCards(const SurfaceContext& context);
 
-    /// Not mapped yet. `old` is the card that it lands on, and whose veil it goes on with; absent: none. Cards of one
-    /// toast share the moment of their arrival.
-    Card make(const wumble::Toast& toast, const Screen& screen, Card* old);
+    /// What `NudgeCardFactory` asks for. The card goes on with the veil of `old`, and has cards of the same toast on
+    /// other screens arrive at the same moment. The pointer doesn't hold a nudge: it is at work on what lies below.
+    Card make(const wumble::Toast& toast, const Screen& screen, Card* old, const NoteCalls& calls);
 
 private:
     struct Arrival {
@@ -35,7 +33,6 @@ private:
     wumble::Date arrivalOf(const wumble::Toast& toast);
 
     SurfaceContext context_;
-    std::function<void(const wumble::UUID&)> dismiss_;
     std::optional<Arrival> arrival_; ///< of the latest toast
 };
 

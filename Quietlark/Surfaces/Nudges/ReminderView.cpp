@@ -7,6 +7,7 @@
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Controls/IconButton.h"
 #include "Quietlark/Theme/Sizes.h"
+#include "Quietlark/Theme/Sticker.h"
 #include "WumbleCore/Motion/Choreography.h"
 
 #include <QMouseEvent>
@@ -66,7 +67,9 @@ ReminderView::ReminderView(const wumble::Toast& toast, const wumble::WumbleDay& 
         pet_.react(wumble::WumbleGesture::nod, follow_->end() - elapsed());
     }
     if (toast.closable) {
-        close_ = new IconButton(Symbol::close, QStringLiteral("Close"), this);
+        auto* control = new IconButton(Symbol::close, QStringLiteral("Close"), this);
+        control->setIconSize(IconSize::small * scale);
+        close_ = control;
         close_->setGeometry(scaled(closePlace, scale).toRect());
         close_->hide();
         connect(close_, &QAbstractButton::clicked, this, [this] { close(); });
@@ -78,6 +81,7 @@ ReminderView::~ReminderView() = default;
 void ReminderView::setReached(bool reached) {
     if (close_ != nullptr) {
         close_->setVisible(reached);
+        update();
     }
 }
 
@@ -157,6 +161,9 @@ void ReminderView::paintEvent(QPaintEvent*) {
             painter, quietlark::palette(day_.base), appearance);
     }
     painter.setClipping(false);
+    if (close_ != nullptr && close_->isVisible()) {
+        drawSticker(painter, closePlace, {.radius = closePlace.width() / 2, .lift = Lift::flat}, appearance);
+    }
     painter.setPen(QPen(colour(Role::line, appearance), outline));
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(cardShape());

@@ -26,17 +26,29 @@ struct StateCase {
 };
 
 const std::vector<StateCase> stateCases{
-    {"plain", [](AppState&) {}, "Quick break in 0:45",
+    {"plain",
+     [](AppState&) {},
+     "Quick break in 0:45",
      {"Wumble's getting ready to rest with you", "Wumble's getting ready"}},
-    {"parts of a second count whole", [](AppState& state) { state.secondsUntilBreak = 59.2; },
-     "Quick break in 1:00", {"Wumble's getting ready to rest with you", "Wumble's getting ready"}},
-    {"one snooze", [](AppState& state) { state.snoozesRemaining = 1; }, "Quick break in 0:45",
+    {"parts of a second count whole",
+     [](AppState& state) { state.secondsUntilBreak = 59.2; },
+     "Quick break in 1:00",
+     {"Wumble's getting ready to rest with you", "Wumble's getting ready"}},
+    {"one snooze",
+     [](AppState& state) { state.snoozesRemaining = 1; },
+     "Quick break in 0:45",
      {"Wumble's getting ready · 1 snooze left", "Wumble's getting ready"}},
-    {"no snooze", [](AppState& state) { state.snoozesRemaining = 0; }, "Quick break in 0:45",
+    {"no snooze",
+     [](AppState& state) { state.snoozesRemaining = 0; },
+     "Quick break in 0:45",
      {"Wumble's getting ready · 0 snoozes left", "Wumble's getting ready"}},
-    {"long", [](AppState& state) { state.upcomingKind = BreakKind::longBreak; }, "Long break in 0:45",
+    {"long",
+     [](AppState& state) { state.upcomingKind = BreakKind::longBreak; },
+     "Long break in 0:45",
      {"A good one to stand up for", "Time to stand up"}},
-    {"custom", [](AppState& state) { state.upcomingKind = BreakKind::custom; }, "Custom break in 0:45",
+    {"custom",
+     [](AppState& state) { state.upcomingKind = BreakKind::custom; },
+     "Custom break in 0:45",
      {"Wumble's getting ready to rest with you", "Wumble's getting ready"}},
     {"typing", holdForTyping, "Finish your thought…", {"The break starts when you pause"}},
     {"dragging goes before a breather",
@@ -78,8 +90,10 @@ const std::vector<StateCase> stateCases{
      },
      "Quick break in 0:45",
      {"Okay, not waiting this time"}},
-    {"nothing to wait for any more", [](AppState& state) { state.ignoringSmartPause = true; },
-     "Quick break in 0:45", {"Okay, not waiting this time"}},
+    {"nothing to wait for any more",
+     [](AppState& state) { state.ignoringSmartPause = true; },
+     "Quick break in 0:45",
+     {"Okay, not waiting this time"}},
 };
 
 TEST(HeadsUpWords, tellWhenTheBreakComesAndWhatItWaitsFor) {
@@ -122,28 +136,27 @@ TEST(HeadsUpWords, offerWhatThePersonMayDo) {
 TEST(HeadsUpWords, aSnoozeThatWaitsForThePersonSaysForHowLong) {
     const auto row = buttons({.upcoming = BreakKind::longBreak, .canWaitForPause = true, .canSnooze = true});
     EXPECT_EQ(row.at(1).does, Button::Does::waitForPause);
-    EXPECT_EQ(row.at(1).help,
-              "If you're still typing then, the break waits till you finish, 15 min at most");
+    EXPECT_EQ(row.at(1).help, "If you're still typing then, the break waits till you finish, 15 min at most");
 }
 
 TEST(HeadsUpWords, thePillCountsUntilTypingHandsHoldIt) {
     AppState state;
     state.now = now;
     state.secondsUntilBreak = 4.2;
-    EXPECT_EQ(countdown(state, true), (Countdown{.first = "Quick break in", .second = "5"}));
+    EXPECT_EQ(pill(state, true), (Pill{.first = "Quick break in", .second = "5"}));
 
     holdForTyping(state);
     state.secondsUntilBreak = 0;
     state.typingHoldEnds = now + 41.5;
-    EXPECT_EQ(countdown(state, true),
-              (Countdown{.waitsForTyping = true, .first = "Break waits", .second = "finish typing"}));
-    EXPECT_EQ(countdown(state, false), (Countdown{.first = "Quick break in", .second = "42"}))
+    EXPECT_EQ(pill(state, true),
+              (Pill{.waitsForTyping = true, .first = "Break waits", .second = "finish typing"}));
+    EXPECT_EQ(pill(state, false), (Pill{.first = "Quick break in", .second = "42"}))
         << "somebody else's hold counts down to its end";
 
     state.dragging = true;
-    EXPECT_EQ(countdown(state, true).second, "finish dragging");
+    EXPECT_EQ(pill(state, true).second, "finish dragging");
     state.secondsUntilBreak = 0.5;
-    EXPECT_EQ(countdown(state, true).second, "1") << "the countdown isn't over yet";
+    EXPECT_EQ(pill(state, true).second, "1") << "the countdown isn't over yet";
 }
 
 TEST(HeadsUpWords, aHoldWithoutAnEndCountsNothing) {

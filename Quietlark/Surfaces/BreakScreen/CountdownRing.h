@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Quietlark/MainLoop.h"
+#include "Quietlark/Surfaces/BreakScreen/BreakContent.h"
+
+#include <QWidget>
+
+namespace quietlark {
+
+/// How much of the break has run, as a ring that fills, with the time that is left in its middle.
+class CountdownRing : public QWidget {
+public:
+    explicit CountdownRing(const MainLoop& loop, QWidget* parent = nullptr);
+
+    /// A small step is taken at once, a jump on a short way of its own.
+    void setValue(const RingValue& value);
+    const RingValue& value() const { return value_; }
+
+    /// From 0 to 1.
+    void setOpacity(double opacity);
+
+    /// What is drawn at that time, 0 to 1.
+    double shownProgress(wumble::Date now) const;
+
+    /// From then on it stands still until the next value.
+    wumble::Date movingUntil() const;
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    const MainLoop& loop_;
+    RingValue value_;
+    double from_ = 0;
+    wumble::Date changedAt_ = wumble::earliestWrittenDate;
+    double opacity_ = 1;
+};
+
+} // namespace quietlark

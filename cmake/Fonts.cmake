@@ -1,0 +1,31 @@
+# The two faces are fetched and cut to size once for each version of them; without npm or a network the program is
+# built without them and uses the system's own.
+function(embed_fonts target)
+  set(folder ${CMAKE_BINARY_DIR}/fonts)
+  set(made_by ${CMAKE_SOURCE_DIR}/scripts/embed-fonts)
+  set(versions ${CMAKE_SOURCE_DIR}/Quietlark/Theme/Fonts/package-lock.json)
+  set(data ${folder}/EmbeddedFonts.cpp)
+  set(made_from ${folder}/made-from)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${made_by} ${versions})
+
+  file(SHA256 ${made_by} script_sum)
+  file(SHA256 ${versions} version_sum)
+  set(wanted "${script_sum} ${version_sum}")
+  set(present "")
+  if(EXISTS ${made_from} AND EXISTS ${data})
+    file(READ ${made_from} present)
+  endif()
+  if(NOT present STREQUAL wanted)
+    execute_process(COMMAND ${made_by} ${folder} ${data} RESULT_VARIABLE failure OUTPUT_QUIET ERROR_VARIABLE why)
+    if(failure)
+      message(NOTICE "Quietlark's typefaces couldn't be had (npm and the Python packages fonttools and brotli fetch "
+        "them); this build uses the system's sans.")
+      file(WRITE ${folder}/failure.log "${why}")
+      file(CONFIGURE OUTPUT ${data} CONTENT "#include \"Quietlark/Theme/EmbeddedFonts.h\"\n
+std::vector<std::string_view> quietlark::embeddedFonts() { return {}; }\n")
+    else()
+      file(WRITE ${made_from} "${wanted}")
+    endif()
+  endif()
+  target_sources(${target} PRIVATE ${data})
+endfunction()

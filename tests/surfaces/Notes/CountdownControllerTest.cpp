@@ -1,0 +1,103 @@
+#include "Quietlark/Surfaces/Notes/CountdownController.h"
+
+#include "Quietlark/Surfaces/Notes/NoteStage.h"
+#include "tests/surfaces/Notes/NotesFixture.h"
+
+namespace quietlark::test {
+
+namespace {
+
+struct CountdownControllerTest : NotesFixture {
+    CountdownControllerTest() : NotesFixture([](auto& settings) { settings.holdOffWhileTyping = true; }) {
+        driver.model().install({.countdown = &controller});
+    }
+
+    RecordedSurface& awaitPill() {
+        for (int second = 0; second < 4 * 3600 && host.top("countdown") == nullptr; ++second) {
+            driver.loop.advance(1);
+        }
+        EXPECT_NE(host.top("countdown"), nullptr);
+        return *host.top("countdown");
+    }
+
+    static std::string words(RecordedSurface& surface) {
+        return dynamic_cast<NoteStage&>(surface.view()).content().accessibleName().toStdString();
+    }
+
+    CountdownController controller{context};
+};
+
+TEST_F(CountdownControllerTest, thePillStandsBesideThePointerAndLetsClicksThrough) {
+    host.setScreens({RecordingSurfaceHost::laptop(), RecordingSurfaceHost::desk()});
+    host.pointerPlace = QPointF(2000, 500);
+    controller.show();
+    RecordedSurface& pill = *host.top("countdown");
+    EXPECT_EQ(pill.frame(), QRectF(2004, 484, 272, 100));
+    EXPECT_TRUE(pill.isMapped());
+    EXPECT_FALSE(pill.takesPointer());
+}
+
+TEST_F(CountdownControllerTest, withoutAPointerItStandsAtTheTop) {
+    host.pointerPlace.reset();
+    controller.show();
+    EXPECT_EQ(host.top("countdown")->frame(), QRectF(584, 22, 272, 100));
+}
+
+TEST_F(CountdownControllerTest, aRestingPointerMovesNothing) {
+    controller.show();
+    RecordedSurface& pill = *host.top("countdown");
+    const int moves = pill.moves;
+    driver.loop.advance(1);
+    EXPECT_EQ(pill.moves, moves);
+}
+
+TEST_F(CountdownControllerTest, itsSizeIsGivenBackInPlace) {
+    controller.show();
+    RecordedSurface& pill = *host.top("countdown");
+    const QRectF frame = pill.frame();
+    pill.setFrame({frame.topLeft(), QSizeF(100, 30)});
+    controller.restoreSize();
+    EXPECT_EQ(pill.frame(), frame);
+    const int moves = pill.moves;
+    controller.restoreSize();
+    EXPECT_EQ(pill.moves, moves);
+}
+
+TEST_F(CountdownControllerTest, itCountsTheLastSecondsAndLeaves) {
+    RecordedSurface& pill = awaitPill();
+    const int left = std::stoi(words(pill).substr(std::string("Quick break in ").size()));
+    driver.loop.advance(2);
+    EXPECT_EQ(words(pill), "Quick break in " + std::to_string(left - 2));
+    controller.hide();
+    const auto saidLast = words(pill);
+    driver.loop.advance(0.35);
+    EXPECT_EQ(words(pill), saidLast);
+    driver.loop.advance(0.1);
+    EXPECT_TRUE(host.surfaces().empty());
+    controller.hide();
+    controller.restoreSize();
+}
+
+TEST_F(CountdownControllerTest, handsThatWorkOnAreSeenWithinATenthOfASecond) {
+    RecordedSurface& pill = awaitPill();
+    driver.loop.advance(0.3);
+    ASSERT_FALSE(driver.state().typingNow.value());
+    driver.desktop.secondsSinceKeyDown = 0;
+    driver.loop.advance(0.11);
+    EXPECT_TRUE(driver.state().typingNow.value());
+    driver.loop.advance(20);
+    EXPECT_EQ(words(pill), "Break waits finish typing");
+    EXPECT_TRUE(pill.isMapped());
+}
+
+TEST_F(CountdownControllerTest, onceItLeavesNobodyLooksAtTheHands) {
+    controller.show();
+    controller.hide();
+    driver.desktop.secondsSinceKeyDown = 0;
+    driver.loop.advance(0.5);
+    EXPECT_FALSE(driver.state().typingNow.value());
+}
+
+} // namespace
+
+} // namespace quietlark::test

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Quietlark/Surfaces/SurfaceContext.h"
+#include "Quietlark/Theme/AppearanceScope.h"
+#include "tests/app/ModelDriver.h"
+#include "tests/support/RecordingSurfaceHost.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QEnterEvent>
+
+namespace quietlark::test {
+
+/// A model, its person and recording screens for the surfaces to stand on.
+struct NotesFixture : testing::Test {
+    explicit NotesFixture(const std::function<void(wumble::WumbleSettings&)>& choose = [](auto&) {})
+        : driver(choose) {}
+
+    ModelDriver driver;
+    RecordingSurfaceHost host;
+    fake::Windows windows{driver.desktop};
+    QProperty<Appearance> appearance;
+    SurfaceContext context{driver.model(), driver.loop, host, windows, &driver.accessibility, appearance};
+
+    /// What was spoken since it was last asked.
+    Told spoken() {
+        Told told = driver.told();
+        std::erase_if(told, [](const std::string& line) { return !line.starts_with("spoken: "); });
+        return told;
+    }
+
+    /// The button of that accessible name; none: null.
+    static QAbstractButton* button(RecordedSurface& surface, const QString& name) {
+        for (auto* button : surface.view().findChildren<QAbstractButton*>()) {
+            if (button->accessibleName() == name && !button->isHidden()) {
+                return button;
+            }
+        }
+        return nullptr;
+    }
+
+    static Told buttons(RecordedSurface& surface) {
+        Told names;
+        for (auto* button : surface.view().findChildren<QAbstractButton*>()) {
+            if (!button->isHidden()) {
+                names.push_back(button->accessibleName().toStdString());
+            }
+        }
+        return names;
+    }
+
+    /// The pointer comes onto a view, or goes.
+    static void hover(QWidget& view, bool inside) {
+        if (inside) {
+            QEnterEvent event({5, 5}, {5, 5}, {5, 5});
+            QCoreApplication::sendEvent(&view, &event);
+        } else {
+            QEvent event(QEvent::Leave);
+            QCoreApplication::sendEvent(&view, &event);
+        }
+    }
+};
+
+} // namespace quietlark::test
