@@ -21,6 +21,7 @@ constexpr std::array table{
     Renderer{"--nudge-cards", "build/nudge-cards", renderNudgeCards},
     Renderer{"--note-pictures", "build/notes", renderNotePictures},
     Renderer{"--export-sounds", "build/sounds", exportSounds},
+    Renderer{"--ux-review", "build/ux", renderTrayPictures},
     Renderer{"--looks-sheets", "build/looks", renderLooks},
 };
 
