@@ -35,4 +35,7 @@ bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance
 /// The popover of the tray in the states that it comes in.
 bool renderTrayPictures(const std::filesystem::path& folder, Appearance appearance);
 
+/// The window of the first run.
+bool renderWelcomePictures(const std::filesystem::path& folder, Appearance appearance);
+
 } // namespace quietlark
