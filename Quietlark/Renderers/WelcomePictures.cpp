@@ -1,7 +1,8 @@
 #include "Quietlark/Renderers/PetSheets.h"
 #include "Quietlark/Renderers/PreviewStage.h"
 #include "Quietlark/Renderers/Sheet.h"
-#include "Quietlark/Welcome/WelcomeWindow.h"
+#include "Quietlark/Theme/AppearanceScope.h"
+#include "Quietlark/Welcome/WelcomeView.h"
 
 #include <QAbstractButton>
 
@@ -37,7 +38,7 @@ struct Scene {
 
 const std::array scenes{
     Scene{"welcome", {}},
-    Scene{"welcome-customized", {WelcomeWords::customize, WelcomeWords::login}},
+    Scene{"welcome-customized", {WelcomeWords::customize}},
 };
 
 QImage picture(const Scene& scene, const Appearance& appearance, double scale) {
@@ -45,20 +46,22 @@ QImage picture(const Scene& scene, const Appearance& appearance, double scale) {
         appearance, [](auto&) {}, 0);
     stage.start();
     NoLogin login;
-    WelcomeWindow welcome(stage.model, &login, stage.appearance);
-    QWidget& window = welcome.window();
-    window.setAttribute(Qt::WA_DontShowOnScreen);
-    welcome.present();
+    WelcomeView view(stage.model, &login);
+    view.setAttribute(Qt::WA_DontShowOnScreen);
+    setAppearance(view, appearance);
+    view.refresh();
+    view.show();
     for (const std::string_view name : scene.presses) {
-        if (QAbstractButton* pressed = button(window, name)) {
+        if (QAbstractButton* pressed = button(view, name)) {
             pressed->click();
         }
     }
     stage.advance(0.5);
-    QImage image(window.size() * scale, QImage::Format_ARGB32_Premultiplied);
+    view.resize(view.sizeHint());
+    QImage image(view.size() * scale, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(scale);
     image.fill(Qt::transparent);
-    window.render(&image);
+    view.render(&image);
     return image;
 }
 

@@ -3,7 +3,7 @@
 #include "WumbleCore/Words/Format.h"
 
 #include <algorithm>
-#include <cmath>
+#include <span>
 
 namespace quietlark {
 
@@ -13,8 +13,8 @@ constexpr std::array quickChoices{1200.0, 1800.0, 2700.0};
 constexpr std::array quickLengthChoices{20.0, 30.0, 45.0, 60.0};
 constexpr std::array longLengthChoices{180.0, 300.0, 600.0};
 
-/// Among several quick breaks a long one is something else; after each one it would be the rule.
-constexpr wumble::Counter fewestBetweenLongOnes = 2;
+/// Where the settings have no such number.
+constexpr wumble::Counter usualLongEvery = 3;
 
 std::vector<double> withCurrent(std::span<const double> choices, double current) {
     std::vector<double> all(choices.begin(), choices.end());
@@ -24,36 +24,20 @@ std::vector<double> withCurrent(std::span<const double> choices, double current)
     return all;
 }
 
-/// A long break in place of every how many quick ones comes nearest to that distance.
-wumble::Counter longEveryFor(double quickEvery, double longApart) {
-    wumble::Counter nearest = fewestBetweenLongOnes;
-    const auto distance = [&](wumble::Counter every) {
-        return std::abs(quickEvery * static_cast<double>(every) - longApart);
-    };
-    for (const wumble::Counter every : wumble::WumbleSettings::longBreakEveryChoices) {
-        if (every >= fewestBetweenLongOnes && distance(every) < distance(nearest)) {
-            nearest = every;
-        }
-    }
-    return nearest;
-}
-
 } // namespace
 
 WelcomeForm::WelcomeForm(const wumble::WumbleSettings& settings)
-    : longApart_(settings.moveInterval), rhythm_{.quickEvery = settings.workInterval,
-                                                 .quickLength = settings.shortBreakDuration,
-                                                 .longEvery = settings.longBreakEvery().value_or(
-                                                     longEveryFor(settings.workInterval, longApart_)),
-                                                 .longLength = settings.longBreakDuration,
-                                                 .nudges = settings.nudgesBetween},
+    : rhythm_{.quickEvery = settings.workInterval,
+              .quickLength = settings.shortBreakDuration,
+              .longEvery = settings.longBreakEvery().value_or(usualLongEvery),
+              .longLength = settings.longBreakDuration,
+              .nudges = settings.nudgesBetween},
       quickEvery_(withCurrent(quickChoices, rhythm_.quickEvery)),
       quickLengths_(withCurrent(quickLengthChoices, rhythm_.quickLength)),
       longLengths_(withCurrent(longLengthChoices, rhythm_.longLength)) {}
 
 void WelcomeForm::chooseQuickEvery(double seconds) {
     rhythm_.quickEvery = seconds;
-    rhythm_.longEvery = longEveryFor(seconds, longApart_);
     touched_ = true;
 }
 

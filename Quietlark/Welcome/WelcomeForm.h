@@ -21,7 +21,7 @@ public:
     const std::vector<double>& longLengths() const { return longLengths_; }
     static constexpr std::array<wumble::Counter, 3> nudgeChoices{0, 1, 2};
 
-    /// Each choice may be taken; the long breaks stay about as far apart as they are.
+    /// As many quick breaks lie between two long ones whatever is chosen.
     void chooseQuickEvery(double seconds);
     void chooseQuickLength(double seconds);
     void chooseLongLength(double seconds);
@@ -38,7 +38,6 @@ public:
     std::string longSummary() const;
 
 private:
-    double longApart_; ///< seconds between long breaks that are aimed at
     WelcomeRhythm rhythm_;
     std::vector<double> quickEvery_;
     std::vector<double> quickLengths_;

@@ -2,6 +2,7 @@
 
 #include "Quietlark/Pet/WumbleView.h"
 #include "Quietlark/Surfaces/TextBlock.h"
+#include "Quietlark/Surfaces/Tray/MenuRow.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Controls/Segments.h"
 #include "Quietlark/Theme/Controls/StickerButton.h"
@@ -10,6 +11,7 @@
 #include "Quietlark/Welcome/PaperCard.h"
 #include "WumbleCore/Words/Format.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -54,6 +56,7 @@ TextBlock* words(std::string_view said, const TextStyle& style) { return new Tex
 
 const TextStyle strong = {.mostLines = 2, .weight = QFont::DemiBold};
 const TextStyle remark = {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 3};
+const TextStyle summary = {.token = TypeToken::body, .ink = Role::textMuted, .mostLines = 3};
 
 } // namespace
 
@@ -96,25 +99,31 @@ QWidget* WelcomeView::rhythmCard() {
     QVBoxLayout* column = card->column();
     column->addWidget(words(WelcomeWords::pickARhythm, {.token = TypeToken::title}));
     column->addWidget(lengths(form_.quickEvery(), form_.rhythm().quickEvery, &WelcomeForm::chooseQuickEvery));
-    quick_ = new TextBlock({}, remark);
-    long_ = new TextBlock({}, remark);
-    for (const auto& [title, summary] :
-         {std::pair(WelcomeWords::quickBreaks, quick_), std::pair(WelcomeWords::longBreaks, long_)}) {
-        auto* row = new QWidget;
-        auto* layout = bare<QHBoxLayout>(row, 12);
-        layout->addWidget(words(title, strong));
-        layout->addWidget(summary, 1);
-        column->addWidget(row);
-    }
-    fold_ = new StickerButton(text(WelcomeWords::customize), StickerButton::Kind::quiet);
+    quick_ = new TextBlock({}, summary);
+    long_ = new TextBlock({}, summary);
+    column->addWidget(summaries());
+    fold_ = new MenuRow(text(WelcomeWords::customize));
+    fold_->setContentsMargins(0, 0, 0, 0);
     QObject::connect(fold_, &QAbstractButton::clicked, this, [this] { customize(!customizing_); });
-    column->addWidget(fold_, 0, Qt::AlignLeft);
+    column->addWidget(fold_);
     details_ = details();
     column->addWidget(details_);
     column->addWidget(
         words(WelcomeWords::later, {.token = TypeToken::caption, .ink = Role::textMuted, .mostLines = 2}));
     customize(false);
     return card;
+}
+
+QWidget* WelcomeView::summaries() {
+    auto* both = new QWidget;
+    auto* grid = bare<QGridLayout>(both, 6);
+    grid->setHorizontalSpacing(12);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(words(WelcomeWords::quickBreaks, strong), 0, 0);
+    grid->addWidget(quick_, 0, 1);
+    grid->addWidget(words(WelcomeWords::longBreaks, strong), 1, 0);
+    grid->addWidget(long_, 1, 1);
+    return both;
 }
 
 QWidget* WelcomeView::details() {
@@ -213,7 +222,7 @@ void WelcomeView::customize(bool open) {
     customizing_ = open;
     details_->setVisible(open);
     fold_->setText(text(open ? WelcomeWords::fewerOptions : WelcomeWords::customize));
-    fold_->setSymbol(open ? Symbol::chevronUp : Symbol::chevronDown);
+    fold_->setUnfolded(open);
     fold_->setToolTip(text(open ? WelcomeWords::fewerOptionsHint : WelcomeWords::customizeHint));
     fold_->setAccessibleDescription(fold_->toolTip());
     wantsOtherSize();

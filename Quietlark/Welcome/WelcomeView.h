@@ -12,7 +12,7 @@
 namespace quietlark {
 
 class Segments;
-class StickerButton;
+class MenuRow;
 class StickerSwitch;
 class TextBlock;
 class WumbleView;
@@ -45,6 +45,7 @@ protected:
 private:
     QWidget* hello();
     QWidget* rhythmCard();
+    QWidget* summaries();
     QWidget* details();
     QWidget* loginCard();
     QWidget* actions();
@@ -63,7 +64,7 @@ private:
     WumbleView* pet_ = nullptr;
     TextBlock* quick_ = nullptr;
     TextBlock* long_ = nullptr;
-    StickerButton* fold_ = nullptr;
+    MenuRow* fold_ = nullptr;
     QWidget* details_ = nullptr;
     StickerSwitch* login_ = nullptr;
     TextBlock* loginError_ = nullptr;
