@@ -26,6 +26,9 @@ bool renderIconOptions(const std::filesystem::path& folder, Appearance appearanc
 /// Each cue as a WAV file by its name, whatever the appearance.
 bool exportSounds(const std::filesystem::path& folder, Appearance appearance);
 
+/// The heads-up, the countdown and the toasts with all that they may say; how they come, go and answer.
+bool renderNotePictures(const std::filesystem::path& folder, Appearance appearance);
+
 /// The three nudges from their arrival to their exit, frame by frame.
 bool renderNudgeClips(const std::filesystem::path& folder, Appearance appearance);
 
@@ -37,5 +40,8 @@ bool renderTrayPictures(const std::filesystem::path& folder, Appearance appearan
 
 /// The window of the first run.
 bool renderWelcomePictures(const std::filesystem::path& folder, Appearance appearance);
+
+/// The break screen in each of its states, at one and two pixels a point.
+bool renderBreakScreens(const std::filesystem::path& folder, Appearance appearance);
 
 } // namespace quietlark
