@@ -32,4 +32,7 @@ bool renderNudgeClips(const std::filesystem::path& folder, Appearance appearance
 /// The three nudges as cards, at the moments that matter.
 bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance);
 
+/// A walk through one morning with the program, situation by situation.
+bool renderUXReview(const std::filesystem::path& folder, Appearance appearance);
+
 } // namespace quietlark

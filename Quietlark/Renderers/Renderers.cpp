@@ -16,6 +16,7 @@ constexpr std::array table{
     Renderer{"--sprite-sheet", "build/sprites", renderSprites},
     Renderer{"--icon-options", "build/icon-options", renderIconOptions},
     Renderer{"--app-icon", "build/app-icon", renderAppIcon},
+    Renderer{"--ux-review", "build/ux", renderUXReview},
     Renderer{"--nudge-clips", "build/nudges", renderNudgeClips},
     Renderer{"--motion-clips", "build/motion", renderMotion},
     Renderer{"--nudge-cards", "build/nudge-cards", renderNudgeCards},
