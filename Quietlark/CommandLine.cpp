@@ -84,6 +84,7 @@ constexpr std::array tools{
     Tool{"--nudge-clips", [](auto option, auto& all) -> Command { return render(option, all); }},
     Tool{"--motion-clips", [](auto option, auto& all) -> Command { return render(option, all); }},
     Tool{"--nudge-cards", [](auto option, auto& all) -> Command { return render(option, all); }},
+    Tool{"--note-pictures", [](auto option, auto& all) -> Command { return render(option, all); }},
     Tool{"--export-sounds", [](auto option, auto& all) -> Command { return render(option, all); }},
     Tool{"--watch-mic",
          [](auto option, auto& all) -> Command {

@@ -26,6 +26,9 @@ bool renderIconOptions(const std::filesystem::path& folder, Appearance appearanc
 /// Each cue as a WAV file by its name, whatever the appearance.
 bool exportSounds(const std::filesystem::path& folder, Appearance appearance);
 
+/// The heads-up, the countdown and the toasts with all that they may say; how they come, go and answer.
+bool renderNotePictures(const std::filesystem::path& folder, Appearance appearance);
+
 /// The three nudges from their arrival to their exit, frame by frame.
 bool renderNudgeClips(const std::filesystem::path& folder, Appearance appearance);
 
@@ -34,5 +37,8 @@ bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance
 
 /// A walk through one morning with the program, situation by situation.
 bool renderUXReview(const std::filesystem::path& folder, Appearance appearance);
+
+/// The break screen in each of its states, at one and two pixels a point.
+bool renderBreakScreens(const std::filesystem::path& folder, Appearance appearance);
 
 } // namespace quietlark

@@ -20,6 +20,7 @@ constexpr std::array table{
     Renderer{"--nudge-clips", "build/nudges", renderNudgeClips},
     Renderer{"--motion-clips", "build/motion", renderMotion},
     Renderer{"--nudge-cards", "build/nudge-cards", renderNudgeCards},
+    Renderer{"--note-pictures", "build/notes", renderNotePictures},
     Renderer{"--export-sounds", "build/sounds", exportSounds},
     Renderer{"--looks-sheets", "build/looks", renderLooks},
 };

@@ -1,14 +1,26 @@
 #include "Quietlark/Surfaces/InstalledSurfaces.h"
 
+#include "Quietlark/Surfaces/Notes/CountdownController.h"
+#include "Quietlark/Surfaces/Notes/HeadsUpController.h"
+#include "Quietlark/Surfaces/Notes/ToastController.h"
+#include "Quietlark/Surfaces/Nudges/NudgeCards.h"
+
 namespace quietlark {
 
 /// One member for each controller; what a new one offers to the model is named in `surfaces`.
 struct InstalledSurfaces::Controllers {
     explicit Controllers(const SurfaceContext& shared) : context(shared) {}
 
-    Surfaces surfaces() { return {}; }
+    Surfaces surfaces() { return {.headsUp = &headsUp, .toasts = &toasts, .countdown = &countdown}; }
 
     SurfaceContext context;
+    NudgeCards nudgeCards{context};
+    HeadsUpController headsUp{context};
+    CountdownController countdown{context};
+    ToastController toasts{context,
+                           [this](const auto& toast, const auto& screen, Card* old, const auto& calls) {
+                               return nudgeCards.make(toast, screen, old, calls);
+                           }};
 };
 
 Appearance appearanceFor(const DesktopLook& look, wumble::Appearance choice) {

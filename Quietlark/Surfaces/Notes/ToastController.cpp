@@ -4,7 +4,7 @@
 #include "Quietlark/Surfaces/Notes/NoteStage.h"
 #include "Quietlark/Surfaces/Notes/ReminderSharing.h"
 #include "Quietlark/Surfaces/Notes/ToastView.h"
-#include "Quietlark/Surfaces/Notes/WorkingScreen.h"
+#include "Quietlark/Surfaces/FloatingPanel.h"
 #include "WumbleCore/Foundation/Match.h"
 
 #include <algorithm>

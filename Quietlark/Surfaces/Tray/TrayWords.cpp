@@ -274,10 +274,10 @@ std::vector<ActionRow> actions(const AppState& state, const wumble::BreakEngine&
     return rows;
 }
 
-std::string todayCounts(const wumble::DaySummary& today) {
-    std::string counts = std::to_string(today.completed) + (today.completed == 1 ? " break" : " breaks");
-    if (today.restTime >= aMinute) {
-        counts += " · " + Format::duration(today.restTime) + " rested";
+std::string todayCounts(const wumble::DaySummary& day) {
+    std::string counts = std::to_string(day.completed) + (day.completed == 1 ? " break" : " breaks");
+    if (day.restTime >= aMinute) {
+        counts += " · " + Format::duration(day.restTime) + " rested";
     }
     return counts;
 }
@@ -293,11 +293,11 @@ std::string petTitle(const wumble::WumbleDay& day, std::string_view familyName) 
     return wumble::name(day.base).append(" ").append(familyName);
 }
 
-std::vector<OtherBreak> otherBreaksOf(const wumble::WumbleSettings& settings) {
+std::vector<OtherBreak> otherBreaksOf(const wumble::WumbleSettings& choices) {
     using wumble::BreakKind;
     const auto kindRow = [&](BreakKind kind) {
         return OtherBreak{std::string(wumble::title(kind)) + " · " +
-                              Format::duration(settings.breakDuration(kind)),
+                              Format::duration(choices.breakDuration(kind)),
                           kind,
                           {}};
     };
