@@ -1,5 +1,6 @@
 #include "Quietlark/AppDelegate.h"
 
+#include "Quietlark/Pet/WumbleView.h"
 #include "Quietlark/Platform/Linux/Hosting/SurfaceHosts.h"
 #include "Quietlark/Platform/Linux/LinuxPlatform.h"
 #include "Quietlark/SystemCalendar.h"
@@ -51,6 +52,7 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                       .calendar = systemCalendar()}),
       surfaces_({.model = model_, .loop = loop_, .host = *host_, .windows = *platform_.windows}),
       termination_([] { QCoreApplication::quit(); }) {
+    WumbleView::desktopPointer = [this] { return host_->pointer(); };
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });
     beginWhenTheDesktopHasAnswered(options, loop_.uptime() + longestWaitForAnswers);
@@ -73,7 +75,10 @@ void AppDelegate::begin(const command::RunApplication& options) {
     }
 }
 
-AppDelegate::~AppDelegate() { model_.prepareForTermination(); }
+AppDelegate::~AppDelegate() {
+    WumbleView::desktopPointer = nullptr;
+    model_.prepareForTermination();
+}
 
 void AppDelegate::carryOut(const command::RunApplication& options) {
     if (options.demoBreak) {
