@@ -15,7 +15,8 @@ constexpr QSizeF screenSize{1280, 800};
 constexpr wumble::Date monday{1773046800}; ///< 9 March 2026, 9:00 in UTC
 
 /// What a program that was closed over the weekend would have left.
-std::filesystem::path furnish(const QTemporaryDir& folder, const PreviewStage::Choose& choose, int revealed) {
+std::filesystem::path furnish(const QTemporaryDir& folder, const PreviewStage::Choose& choose, int revealed,
+                              int restDays) {
     const std::filesystem::path path = folder.path().toStdString();
     wumble::Storage storage(path);
     wumble::WumbleSettings settings;
@@ -29,18 +30,23 @@ std::filesystem::path furnish(const QTemporaryDir& folder, const PreviewStage::C
     pet.day = today;
     life.days[today] = pet;
     life.greetedDay = today;
+    for (int before = 1; before <= restDays; ++before) {
+        auto earlier = samplePet(wumble::WumbleBase::matcha, 3, before);
+        earlier.day = wumble::DayKey::string(calendar.day(monday) - std::chrono::days(before));
+        life.days[earlier.day] = earlier;
+    }
     storage.save(life);
     return path;
 }
 
 } // namespace
 
-PreviewStage::PreviewStage(const Appearance& look, const Choose& choose, int revealed)
+PreviewStage::PreviewStage(const Appearance& look, const Choose& choose, int revealed, int restDays)
     : loop(monday), platform(makePreviewPlatform(machine)), host(screenSize), appearance(look),
-      model(furnish(folder_, choose, revealed), {.mainLoop = loop,
-                                                 .platform = platform,
-                                                 .calendar = wumble::Calendar(),
-                                                 .random = [](std::uint64_t) { return 0; }}) {}
+      model(furnish(folder_, choose, revealed, restDays), {.mainLoop = loop,
+                                                           .platform = platform,
+                                                           .calendar = wumble::Calendar(),
+                                                           .random = [](std::uint64_t) { return 0; }}) {}
 
 void PreviewStage::advance(double seconds) {
     loop.advance(seconds);

@@ -19,9 +19,10 @@ class PreviewStage {
 public:
     using Choose = std::function<void(wumble::WumbleSettings&)>;
 
-    /// A Monday morning with a pet that shows `revealed` of its looks, well known to its person. Nothing runs yet.
+    /// A Monday morning with a pet that shows `revealed` of its looks, well known to its person, after `restDays` days
+    /// in a row that had a break. Nothing runs yet.
     explicit PreviewStage(
-        const Appearance& look, const Choose& choose = [](auto&) {}, int revealed = 6);
+        const Appearance& look, const Choose& choose = [](auto&) {}, int revealed = 6, int restDays = 0);
 
     /// From here on the day goes by as `loop` is advanced.
     void start() { model.start(AppModel::Running::ticking); }

@@ -220,6 +220,7 @@ BreakContent breakContent(const AppModel& model, const BreakStage& stage, bool i
     BreakContent& content = telling.content;
     content.scene = sceneOf(phase, shown, now, telling.settings().holdUntilEndPressed);
     content.pet = model.state().today.value();
+    content.isPrimary = isPrimary;
     content.petSize = isPrimary ? primaryPet : otherPet;
     telling.tellClock(isPrimary, shown);
     if (phase) {

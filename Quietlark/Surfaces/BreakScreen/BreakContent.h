@@ -29,6 +29,7 @@ struct RingValue {
 /// All that one window of the break screen shows at one moment, before anything is laid out.
 struct BreakContent {
     BreakScene scene = BreakScene::empty;
+    bool isPrimary = false;
     std::string title;
     std::string subtitle;
     std::optional<RingValue> ring;

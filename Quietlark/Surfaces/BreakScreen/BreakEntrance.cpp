@@ -40,6 +40,14 @@ EntrancePose entering(const BreakPart& part, double t, bool reduceMotion) {
         [&](const part::Words&) { return wordsEntering(t, reduceMotion); });
 }
 
+constexpr int lastWords = 4;
+constexpr double afterFormerWords = 0.2; ///< the place is free then
+
+/// How words come into a place of their own later on; at rest for a time before the call.
+EntrancePose wordsCalled(wumble::Date at, double delay, wumble::Date now, bool reduceMotion) {
+    return now < at ? EntrancePose{} : wordsEntering(now - at - delay, reduceMotion);
+}
+
 double leaving(const BreakPart& part, double t) {
     return std::holds_alternative<part::Ground>(part) ? 1 - Motion::depart.value(t - groundStays)
                                                       : wordsLeaving(t);
@@ -53,6 +61,38 @@ EntrancePose wordsEntering(double t, bool reduceMotion) {
     }
     const double risen = Motion::rise.value(t);
     return {.opacity = risen, .drop = wordsRise * (1 - risen)};
+}
+
+EntrancePose wordPose(const WordTimes& times, int order, wumble::Date now) {
+    EntrancePose pose = entrancePose(part::Words{order}, times.screen, now, times.reduceMotion);
+    EntrancePose called;
+    if (times.revealAt) {
+        called = wordsCalled(*times.revealAt, betweenWords * order, now, times.reduceMotion);
+    } else if (times.sceneAt) {
+        called = wordsCalled(*times.sceneAt, afterFormerWords, now, times.reduceMotion);
+    }
+    pose.opacity *= called.opacity;
+    pose.drop += called.drop;
+    return pose;
+}
+
+double formerWords(const WordTimes& times, wumble::Date now) {
+    if (!times.sceneAt || now < *times.sceneAt) {
+        return 0;
+    }
+    return wordsLeaving(now - *times.sceneAt) *
+           entrancePose(part::Words{}, {.leftAt = times.screen.leftAt}, now, times.reduceMotion).opacity;
+}
+
+wumble::Date wordsMovingUntil(const WordTimes& times) {
+    wumble::Date until = movingUntil(part::Words{lastWords}, times.screen, times.reduceMotion);
+    if (times.sceneAt) {
+        until = std::max(until, *times.sceneAt + afterFormerWords + Motion::rise.duration);
+    }
+    if (times.revealAt) {
+        until = std::max(until, *times.revealAt + betweenWords * lastWords + Motion::rise.duration);
+    }
+    return until;
 }
 
 double wordsLeaving(double t) { return 1 - Motion::fade.value(t); }

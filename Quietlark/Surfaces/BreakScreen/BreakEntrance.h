@@ -45,6 +45,22 @@ EntrancePose entrancePose(const BreakPart& part, const BreakTimes& times, wumble
 /// From then on the part stands still. Long ago without `shownAt`.
 wumble::Date movingUntil(const BreakPart& part, const BreakTimes& times, bool reduceMotion);
 
+/// When the words on the screen came, and how.
+struct WordTimes {
+    BreakTimes screen;
+    std::optional<wumble::Date> sceneAt;  ///< they took the place of others then
+    std::optional<wumble::Date> revealAt; ///< or came with a reveal
+    bool reduceMotion = false;
+};
+
+EntrancePose wordPose(const WordTimes& times, int order, wumble::Date now);
+
+/// Opacity of the words whose place was taken.
+double formerWords(const WordTimes& times, wumble::Date now);
+
+/// From then on no words move.
+wumble::Date wordsMovingUntil(const WordTimes& times);
+
 /// New words of a later moment, `t` seconds after they were called.
 EntrancePose wordsEntering(double t, bool reduceMotion);
 

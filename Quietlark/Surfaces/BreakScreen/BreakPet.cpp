@@ -1,9 +1,7 @@
 #include "Quietlark/Surfaces/BreakScreen/BreakPet.h"
 
+#include "Quietlark/Surfaces/BreakScreen/FadedLayer.h"
 #include "Quietlark/Theme/AppearanceScope.h"
-
-#include <QPainter>
-#include <QPixmap>
 
 #include <cmath>
 #include <utility>
@@ -48,23 +46,11 @@ void BreakPet::drawScaled(QPainter& painter) {
                      stickerColours(appearanceOf(*this)));
 }
 
-/// A pet that is half there is drawn whole first: its parts lie over each other.
 void BreakPet::paintEvent(QPaintEvent* event) {
     if (scale_ == 1 && opacity_ >= 1) {
         return WumbleView::paintEvent(event);
     }
-    QPainter painter(this);
-    if (opacity_ >= 1) {
-        return drawScaled(painter);
-    }
-    QPixmap layer(size() * devicePixelRatioF());
-    layer.setDevicePixelRatio(devicePixelRatioF());
-    layer.fill(Qt::transparent);
-    QPainter onLayer(&layer);
-    drawScaled(onLayer);
-    onLayer.end();
-    painter.setOpacity(opacity_);
-    painter.drawPixmap(0, 0, layer);
+    drawFaded(*this, opacity_, [this](QPainter& painter) { drawScaled(painter); });
 }
 
 } // namespace quietlark

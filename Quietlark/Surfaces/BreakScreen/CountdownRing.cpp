@@ -1,11 +1,9 @@
 #include "Quietlark/Surfaces/BreakScreen/CountdownRing.h"
 
+#include "Quietlark/Surfaces/BreakScreen/FadedLayer.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/TextLayout.h"
 #include "WumbleCore/Motion/Curve.h"
-
-#include <QPainter>
-#include <QPixmap>
 
 #include <cmath>
 
@@ -19,7 +17,7 @@ constexpr double trackWidth = 6;
 constexpr double trackInset = 12; ///< from the edge of the disc to the middle of the track
 constexpr double outline = 1.5;
 constexpr double contrastOutline = 2.5;
-constexpr double smallStep = 0.02; ///< of the whole ring
+constexpr double smallStep = 0.02;     ///< of the whole ring
 constexpr std::size_t widestLarge = 5; ///< letters: "12:34"
 
 constexpr wumble::Motion::Curve easing{.duration = 0.25, .x1 = 0.25, .y1 = 0.1, .x2 = 0.25, .y2 = 1};
@@ -39,7 +37,8 @@ void drawRing(QPainter& painter, const QRectF& place, double progress, const std
         painter.setPen(QPen(colour(Role::go, appearance), trackWidth, Qt::SolidLine, Qt::RoundCap));
         painter.drawArc(track, 90 * 16, static_cast<int>(std::lround(-progress * 360 * 16)));
     }
-    const TextStyle style{.token = label.size() > widestLarge ? TypeToken::numeralSmall : TypeToken::numeralMedium,
+    const TextStyle style{.token =
+                              label.size() > widestLarge ? TypeToken::numeralSmall : TypeToken::numeralMedium,
                           .alignment = Qt::AlignCenter};
     drawText(painter, track.adjusted(trackWidth, 0, -trackWidth, 0), QString::fromStdString(label), style,
              appearance);
@@ -80,26 +79,17 @@ void CountdownRing::setOpacity(double opacity) {
 }
 
 double CountdownRing::shownProgress(wumble::Date now) const {
-    const double way = appearanceOf(*this).reduceMotion || now < changedAt_ ? 1 : easing.value(now - changedAt_);
+    const double way =
+        appearanceOf(*this).reduceMotion || now < changedAt_ ? 1 : easing.value(now - changedAt_);
     return from_ + (value_.progress - from_) * way;
 }
 
 wumble::Date CountdownRing::movingUntil() const { return changedAt_ + easing.duration; }
 
 void CountdownRing::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const double progress = shownProgress(loop_.now());
-    if (opacity_ >= 1) {
-        return drawRing(painter, rect(), progress, value_.label, appearanceOf(*this));
-    }
-    QPixmap layer(size() * devicePixelRatioF());
-    layer.setDevicePixelRatio(devicePixelRatioF());
-    layer.fill(Qt::transparent);
-    QPainter onLayer(&layer);
-    drawRing(onLayer, rect(), progress, value_.label, appearanceOf(*this));
-    onLayer.end();
-    painter.setOpacity(opacity_);
-    painter.drawPixmap(0, 0, layer);
+    drawFaded(*this, opacity_, [this](QPainter& painter) {
+        drawRing(painter, rect(), shownProgress(loop_.now()), value_.label, appearanceOf(*this));
+    });
 }
 
 } // namespace quietlark
