@@ -71,7 +71,7 @@ void HeadsUpView::follow() {
     };
     follows(state_.secondsUntilBreak, state_.upcomingKind, state_.hold, state_.dragging,
             state_.detectorStatus, state_.breatherAfter, state_.ignoringSmartPause, state_.rawSmartActivity,
-            state_.snoozesRemaining, state_.canSnooze, state_.now, state_.today);
+            state_.snoozesRemaining, state_.canSnooze, state_.settings, state_.now, state_.today);
     observers_.emplace_back(observe(*followed_.hello, [this] { greet(); }));
     observers_.emplace_back(observe(*followed_.answer, [this] { turnIntoAnswer(); }));
 }

@@ -102,7 +102,7 @@ TEST_F(HeadsUpControllerTest, startingTheBreakSendsTheCardAway) {
 }
 
 TEST_F(HeadsUpControllerTest, whatLeavesKeepsItsWords) {
-    driver.model().update([](auto& settings) { settings.enforcement = wumble::Enforcement::casual; });
+    driver.model().update([](auto& settings) { settings.allowSkipInAdvance = true; });
     for (const char* press : {"Skip", "Break now"}) {
         RecordedSurface& card = awaitCard();
         const auto said = words(card);
