@@ -16,6 +16,7 @@ constexpr std::array parts{
     Part{"nudges", renderNudgeCards},
     Part{"break-screen", renderBreakScreens},
     Part{"tray", renderTrayPictures},
+    Part{"welcome", renderWelcomePictures},
 };
 
 } // namespace

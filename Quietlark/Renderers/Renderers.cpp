@@ -22,8 +22,6 @@ constexpr std::array table{
     Renderer{"--motion-clips", "build/motion", renderMotion},
     Renderer{"--nudge-cards", "build/nudge-cards", renderNudgeCards},
     Renderer{"--export-sounds", "build/sounds", exportSounds},
-    Renderer{"--render-previews", "build/previews", renderPreviews},
-    Renderer{"--ux-review", "build/ux", renderTrayPictures},
     Renderer{"--looks-sheets", "build/looks", renderLooks},
 };
 

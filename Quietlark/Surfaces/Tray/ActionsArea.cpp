@@ -104,6 +104,7 @@ void ActionsArea::build() {
     if (const auto skip = std::ranges::find(rows_, Action::skip, &ActionRow::action); skip != rows_.end()) {
         column_->addWidget(button(*skip));
     }
+    showNow(*column_);
     setVisible(!rows_.empty());
 }
 

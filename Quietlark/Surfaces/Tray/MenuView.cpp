@@ -137,6 +137,7 @@ void MenuView::refresh() {
 void MenuView::refreshHeader() {
     const AppState& state = context_.model.state();
     const wumble::WumbleDay& today = state.today.value();
+    pet_->setAppearance(appearanceOf(*this));
     pet_->setDay(today);
     pet_->setMood(mood(state));
     pet_->setFamilyName(text(state.life.value().name));

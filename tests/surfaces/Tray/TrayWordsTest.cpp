@@ -18,6 +18,11 @@ void skipsAllowed(wumble::WumbleSettings& settings) {
     settings.advanceSkipsPerDay = wumble::Limit::count(2);
 }
 
+void withoutCountdown(wumble::WumbleSettings& settings) {
+    skipsAllowed(settings);
+    settings.countdownDuration = 0;
+}
+
 void afternoonsOnly(wumble::WumbleSettings& settings) {
     settings.officeHoursEnabled = true;
     for (auto& day : settings.officeHours) {
@@ -84,7 +89,13 @@ const std::vector<Case> cases = {
          driver.desktop.secondsSinceKeyDown = 0.1;
          driver.run(quickBreaksEvery + 4);
      },
-     "Typing", "Break waits | The break starts when you pause", all},
+     "Typing", "Break waits | The break starts when you pause", all, withoutCountdown},
+    {"typing in the last seconds",
+     [](ModelDriver& driver) {
+         driver.desktop.secondsSinceKeyDown = 0.1;
+         driver.run(quickBreaksEvery + 4);
+     },
+     "0:05", "Quick break in | 0:05 | The break starts when you pause", all},
     {"paused for an hour",
      [](ModelDriver& driver) {
          driver.model().pause(3600, Asked::menu);
@@ -111,7 +122,7 @@ const std::vector<Case> cases = {
     {"off hours",
      [](ModelDriver& driver) { driver.run(5); },
      "",
-     "Off hours · back | at 13:00",
+     "Off hours · back | at 1:00 PM",
      {"Break now"},
      afternoonsOnly},
 };
