@@ -35,19 +35,19 @@ bool renderNudgeClips(const std::filesystem::path& folder, Appearance appearance
 /// The three nudges as cards, at the moments that matter.
 bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance);
 
-/// A walk through one morning with the program, situation by situation.
-bool renderUXReview(const std::filesystem::path& folder, Appearance appearance);
-
-/// The break screen in each of its states, at one and two pixels a point.
-bool renderBreakScreens(const std::filesystem::path& folder, Appearance appearance);
-
 /// The popover of the tray in the states that it comes in.
 bool renderTrayPictures(const std::filesystem::path& folder, Appearance appearance);
 
 /// The window of the first run.
 bool renderWelcomePictures(const std::filesystem::path& folder, Appearance appearance);
 
+/// The break screen in each of its states, at one and two pixels a point.
+bool renderBreakScreens(const std::filesystem::path& folder, Appearance appearance);
+
 /// All of the surfaces above, light and dark, each in a folder of its own.
 bool renderPreviews(const std::filesystem::path& folder, Appearance appearance);
+
+/// A walk through one morning with the program, situation by situation.
+bool renderUXReview(const std::filesystem::path& folder, Appearance appearance);
 
 } // namespace quietlark
