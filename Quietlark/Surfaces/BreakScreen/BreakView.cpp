@@ -43,12 +43,10 @@ BreakView::BreakView(Setup setup)
                          .start = setup_.stage->petClockStart},
                         this)),
       ring_(new CountdownRing(setup_.context.loop, this)), dots_(new RevealDots(this)),
-      dotsOpacity_(new QGraphicsOpacityEffect(dots_)), tag_(new StickerTag(this)),
-      chip_(new StreakChip(StreakChip::Size::large, this)),
+      tag_(new StickerTag(this)), chip_(new StreakChip(StreakChip::Size::large, this)),
       lockButton_(new StickerButton(QStringLiteral("Lock screen"), StickerButton::Kind::quiet, this)),
       controls_(*this, [this](BreakControl control) { press(control); }),
       frames_(setup_.context.loop, [this](double) { frame(); }) {
-    dots_->setGraphicsEffect(dotsOpacity_);
     lockButton_->setSymbol(Symbol::lock);
     connect(lockButton_, &QAbstractButton::clicked, this, [this] {
         if (setup_.lock != nullptr) {
