@@ -22,8 +22,9 @@ constexpr std::array heartLayers{edge(heart, 0xE6516A), line(heartShine, 0xFFB3B
 constexpr std::array plantLayers{line(plantStem, 0x5C8F45, 4), edge(plantLeafA, 0x76B359),
                                  edge(plantLeafB, 0x629E49),   edge(plantLeafC, 0x8BC66B),
                                  edge(plantPot, 0xD37B52),     edge(plantPotRim, 0xE3946B)};
-constexpr std::array craneLayers{edge(craneBackWing, 0x6CA3D6), edge(craneBody, 0x86B9E6),
-                                 edge(craneHead, 0xF4B544), edge(craneLight, 0xC3E0F7)};
+constexpr std::array craneLayers{edge(craneTail, 0x5E97CE), edge(craneNeck, 0x86B9E6),
+                                 edge(craneHead, 0xF4B544), edge(craneBackWing, 0x5E97CE),
+                                 edge(craneBody, 0x79AEE0), edge(craneLight, 0xC3E0F7)};
 constexpr std::array pencilLayers{edge(pencilRubber, 0xF48FA0),       edge(pencilWood, 0xF8C644),
                                   line(pencilStripes, 0xE3A52F, 2.4), edge(pencilTip, 0xF3D6A8),
                                   fill(pencilLead, 0x4A4048),         fill(pencilFerrule, 0xB9BDC8)};
@@ -57,11 +58,11 @@ constexpr std::array<Hold, 11> belongings{{
     {WumbleKeepsake::book, bookLayers, {0, 4}, -3, 1.12, 39},
     {WumbleKeepsake::tea, teaLayers, {0, 4}, 3, 1.12, 33},
     {WumbleKeepsake::heart, heartLayers, {0, 3}, -5, 1.2, 31},
-    {WumbleKeepsake::plant, plantLayers, {72, -3}, 5, 0.95, -34},
-    {WumbleKeepsake::crane, craneLayers, {0, 4}, -4, 1.12, 42},
-    {WumbleKeepsake::pencil, pencilLayers, {62, -4}, 24, 1.0, -8},
-    {WumbleKeepsake::lantern, lanternLayers, {64, 2}, 6, 1.05, -20},
-    {WumbleKeepsake::dango, dangoLayers, {62, -4}, 24, 1.05, -4},
+    {WumbleKeepsake::plant, plantLayers, {82, -3}, 5, 0.95, -66},
+    {WumbleKeepsake::crane, craneLayers, {0, 2}, -3, 1.12, 50},
+    {WumbleKeepsake::pencil, pencilLayers, {82, -18}, 26, 1.1, -34},
+    {WumbleKeepsake::lantern, lanternLayers, {80, 0}, 6, 1.0, -70},
+    {WumbleKeepsake::dango, dangoLayers, {80, -26}, 24, 1.05, -34},
     {WumbleKeepsake::onigiri, onigiriLayers, {0, 5}, 4, 1.08, 36},
     {WumbleKeepsake::daruma, darumaLayers, {0, 6}, -3, 1, 35},
     {WumbleKeepsake::balloon, balloonLayers, {0, 0}, 0, 1, 0},

@@ -106,6 +106,9 @@ public:
 
     /// Not mapped yet. The surface owns the view.
     virtual std::unique_ptr<HostedSurface> host(std::unique_ptr<QWidget> view, const SurfaceStyle& style) = 0;
+
+    /// Lets go of the keyboard for some seconds where a surface has the whole of it, so that a lock screen can take it.
+    virtual void yieldKeyboard() {}
 };
 
 } // namespace quietlark

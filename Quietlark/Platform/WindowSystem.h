@@ -31,7 +31,7 @@ public:
     virtual std::vector<AppWindow> windows() const = 0;
 
     /// The rectangles of all windows on the screen that belong to the same program as this one, minimized ones,
-    /// wholly transparent ones and those on other workspaces left out. From the top left of the main screen, y
+    /// wholly transparent ones and those on other workspaces left out, from the bottom to the top. From the top left of the main screen, y
     /// growing downwards, in the pixels of the window system. May ask the window system, within the time of a
     /// refresh.
     virtual std::vector<wumble::Rect> rectanglesOfProgram(const AppWindow& window) = 0;

@@ -1,6 +1,7 @@
 #include "Quietlark/Renderers/NudgeShow.h"
 #include "Quietlark/Renderers/PetCells.h"
 #include "Quietlark/Renderers/PetSheets.h"
+#include "Quietlark/Renderers/PictureCell.h"
 
 #include <array>
 #include <cstdio>
@@ -22,22 +23,18 @@ constexpr std::array exits{0.0, 0.06, 0.12, 0.18, 0.24, 0.3, 0.34};
 struct Clip {
     const char* name;
     wumble::Toast (*toast)(double linger);
-    double every; ///< seconds from frame to frame of the exercise
+    double every;  ///< seconds from frame to frame of the exercise
+    double height; ///< points of a frame
 };
 
-constexpr std::array clips{Clip{"blink", wumble::Toast::blink, 0.3},
-                           Clip{"posture", wumble::Toast::posture, 0.35},
-                           Clip{"breath", wumble::Toast::breath, 2}};
+constexpr std::array clips{Clip{"blink", wumble::Toast::blink, 0.3, 216},
+                           Clip{"posture", wumble::Toast::posture, 0.35, 420},
+                           Clip{"breath", wumble::Toast::breath, 2, 216}};
 
-Cell frame(double elapsed, const QImage& picture) {
-    std::array<char, 32> caption{};
-    std::snprintf(caption.data(), caption.size(), "%.2f s", elapsed);
-    return {caption.data(), [picture](QPainter& painter, const QRectF& place) {
-                const QSizeF size = QSizeF(picture.size()).scaled(place.size() * 0.96, Qt::KeepAspectRatio);
-                painter.setRenderHint(QPainter::SmoothPixmapTransform);
-                painter.drawImage(QRectF(place.center() - QPointF(size.width(), size.height()) / 2, size),
-                                  picture);
-            }};
+std::string inSeconds(double elapsed) {
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%.2f s", elapsed);
+    return text.data();
 }
 
 std::vector<Cell> frames(const Clip& clip, const Appearance& appearance) {
@@ -46,7 +43,7 @@ std::vector<Cell> frames(const Clip& clip, const Appearance& appearance) {
     std::vector<Cell> cells;
     const auto take = [&](double elapsed) {
         show.goTo(elapsed);
-        cells.push_back(frame(elapsed, show.picture(1)));
+        cells.push_back(pictureCell(inSeconds(elapsed), show.picture(1)));
     };
     for (const double elapsed : arrival) {
         take(elapsed);
@@ -67,7 +64,9 @@ std::vector<Cell> frames(const Clip& clip, const Appearance& appearance) {
 bool renderNudgeClips(const std::filesystem::path& folder, Appearance appearance) {
     bool saved = true;
     for (const auto& clip : clips) {
-        const auto strip = sheet(frames(clip, appearance), paper(appearance, columns, cellSize));
+        auto layout = paper(appearance, columns, cellSize);
+        layout.height = clip.height;
+        const auto strip = sheet(frames(clip, appearance), layout);
         saved = save(strip, folder, std::string(clip.name) + ".png") && saved;
     }
     return saved;

@@ -26,11 +26,20 @@ bool renderIconOptions(const std::filesystem::path& folder, Appearance appearanc
 /// Each cue as a WAV file by its name, whatever the appearance.
 bool exportSounds(const std::filesystem::path& folder, Appearance appearance);
 
+/// The heads-up, the countdown and the toasts with all that they may say; how they come, go and answer.
+bool renderNotePictures(const std::filesystem::path& folder, Appearance appearance);
+
 /// The three nudges from their arrival to their exit, frame by frame.
 bool renderNudgeClips(const std::filesystem::path& folder, Appearance appearance);
 
 /// The three nudges as cards, at the moments that matter.
 bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance);
+
+/// The popover of the tray in the states that it comes in.
+bool renderTrayPictures(const std::filesystem::path& folder, Appearance appearance);
+
+/// The window of the first run.
+bool renderWelcomePictures(const std::filesystem::path& folder, Appearance appearance);
 
 /// The break screen in each of its states, at one and two pixels a point.
 bool renderBreakScreens(const std::filesystem::path& folder, Appearance appearance);

@@ -17,7 +17,8 @@ QImage sheet(const std::vector<Cell>& cells, const SheetLayout& layout) {
     const int count = static_cast<int>(cells.size());
     const int columns = std::max(1, std::min(layout.columns, count));
     const int rows = (count + columns - 1) / columns;
-    const double height = layout.cell + (hasCaptions(layout) ? captionHeight : 0);
+    const QSizeF size(layout.cell, layout.height > 0 ? layout.height : layout.cell);
+    const double height = size.height() + (hasCaptions(layout) ? captionHeight : 0);
     QImage image(QSizeF(columns * layout.cell * layout.scale, rows * height * layout.scale).toSize(),
                  QImage::Format_ARGB32_Premultiplied);
     image.fill(layout.ground);
@@ -27,10 +28,10 @@ QImage sheet(const std::vector<Cell>& cells, const SheetLayout& layout) {
     for (int place = 0; place < count; ++place) {
         const auto& cell = cells[static_cast<std::size_t>(place)];
         const QPointF corner(place % columns * layout.cell, place / columns * height);
-        cell.draw(painter, QRectF(corner, QSizeF(layout.cell, layout.cell)));
+        cell.draw(painter, QRectF(corner, size));
         if (hasCaptions(layout)) {
             painter.setPen(layout.ink);
-            painter.drawText(QRectF(corner.x(), corner.y() + layout.cell, layout.cell, captionHeight),
+            painter.drawText(QRectF(corner.x(), corner.y() + size.height(), size.width(), captionHeight),
                              Qt::AlignCenter, QString::fromStdString(cell.caption));
         }
     }

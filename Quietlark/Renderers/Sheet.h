@@ -19,7 +19,8 @@ struct Cell {
 /// How a sheet is laid out. Lengths in points.
 struct SheetLayout {
     int columns = 6;
-    double cell = 120;
+    double cell = 120; ///< wide
+    double height = 0; ///< of a cell; 0: as high as it is wide
     double scale = 1;
     QColor ground;
     QColor ink; ///< of the captions; no captions when it isn't valid

@@ -46,7 +46,8 @@ void TextBlock::setStyle(const TextStyle& style) {
 QSize TextBlock::sizeHint() const {
     const Appearance look = appearanceOf(*this);
     const QSizeF size = measureText(text_, style_, widestWish * look.textScale, look);
-    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+    return QSize(static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height())))
+        .grownBy(contentsMargins());
 }
 
 QSize TextBlock::minimumSizeHint() const {
@@ -55,12 +56,15 @@ QSize TextBlock::minimumSizeHint() const {
 }
 
 int TextBlock::heightForWidth(int width) const {
-    return static_cast<int>(std::ceil(measureText(text_, style_, width, appearanceOf(*this)).height()));
+    const QMargins around = contentsMargins();
+    const double room = width - around.left() - around.right();
+    const double height = measureText(text_, style_, room, appearanceOf(*this)).height();
+    return static_cast<int>(std::ceil(height)) + around.top() + around.bottom();
 }
 
 void TextBlock::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    drawText(painter, rect(), text_, style_, appearanceOf(*this));
+    drawText(painter, contentsRect(), text_, style_, appearanceOf(*this));
 }
 
 } // namespace quietlark

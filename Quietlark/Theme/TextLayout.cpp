@@ -4,6 +4,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QStyle>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -21,6 +22,14 @@ constexpr int balancingSteps = 7;
 /// Edges of letters are soft, so that a clip right at the edge would shave them.
 constexpr double softEdge = 1;
 
+Qt::LayoutDirection directionOf(const QString& text) {
+    return text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+}
+
+Qt::Alignment visualAlignment(Qt::Alignment alignment, Qt::LayoutDirection direction) {
+    return QStyle::visualAlignment(direction, alignment) & Qt::AlignHorizontal_Mask;
+}
+
 struct Lines {
     int count = 0;
     double widest = 0;
@@ -37,8 +46,8 @@ public:
           leading_(leading(style.token)), text_(inLines(text)), layout_(text_, font_) {
         QTextOption option;
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-        option.setTextDirection(text_.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-        option.setAlignment(style.alignment & Qt::AlignHorizontal_Mask);
+        option.setTextDirection(directionOf(text_));
+        option.setAlignment(visualAlignment(style.alignment, directionOf(text_)));
         layout_.setTextOption(option);
     }
 
@@ -157,12 +166,11 @@ Lines setText(Setting& setting, const TextStyle& style, double width, double hei
 }
 
 /// Where lines that were set narrower than the rectangle begin in it.
-double sideRoom(double room, const TextStyle& style, bool rightToLeft) {
-    if (style.alignment & Qt::AlignHCenter) {
+double roomBeside(double room, Qt::Alignment visual) {
+    if (visual & Qt::AlignHCenter) {
         return room / 2;
     }
-    const bool atRight = static_cast<bool>(style.alignment & Qt::AlignRight);
-    return atRight != rightToLeft ? room : 0;
+    return visual & Qt::AlignRight ? room : 0;
 }
 
 double roomAbove(double room, Qt::Alignment alignment) {
@@ -194,7 +202,8 @@ void drawText(QPainter& painter, const QRectF& rect, const QString& text, const 
     }
     Setting setting(text, style, appearance);
     const Lines lines = setText(setting, style, rect.width(), rect.height());
-    const QPointF at{sideRoom(rect.width() - setting.width(), style, text.isRightToLeft()),
+    const Qt::Alignment visual = visualAlignment(style.alignment, directionOf(text));
+    const QPointF at{roomBeside(rect.width() - setting.width(), visual),
                      roomAbove(rect.height() - lines.height, style.alignment)};
     painter.save();
     painter.setClipRect(rect.adjusted(-softEdge, -softEdge, softEdge, softEdge), Qt::IntersectClip);

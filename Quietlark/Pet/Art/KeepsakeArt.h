@@ -49,13 +49,17 @@ inline constexpr Art plantLeafB{"M0-18C4-36 18-44 30-38C30-24 16-14 0-18Z"};
 
 inline constexpr Art plantLeafC{"M0-22C-9-32-7-46 1-52C9-46 9-32 0-22Z"};
 
-inline constexpr Art craneBody{"M-36-17L-7 0L2-2L15 4L26-20L32-17L26 9L5 21L-14 10Z"};
+inline constexpr Art craneTail{"M-4 10L-42-17L-21 17Z"};
 
-inline constexpr Art craneLight{"M-6 4L8-25L16 6L4 13Z"};
+inline constexpr Art craneNeck{"M6 8L37-26L21 17Z"};
 
-inline constexpr Art craneBackWing{"M-2 2L-13-22L-10 7Z"};
+inline constexpr Art craneBody{"M-24 12L0 2L25 12L2 26Z"};
 
-inline constexpr Art craneHead{"M26-20L40-12L31-13Z"};
+inline constexpr Art craneLight{"M-16 11L-11-24L20 10L4 17Z"};
+
+inline constexpr Art craneBackWing{"M-2 8L20-23L16 12Z"};
+
+inline constexpr Art craneHead{"M37-26L48-15L31-19Z"};
 
 inline constexpr Art pencilWood{"M-11-34L11-34L11 16L-11 16Z"};
 

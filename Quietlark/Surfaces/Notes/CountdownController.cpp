@@ -1,9 +1,9 @@
 #include "Quietlark/Surfaces/Notes/CountdownController.h"
 
+#include "Quietlark/Surfaces/FloatingPanel.h"
 #include "Quietlark/Surfaces/Notes/CountdownView.h"
 #include "Quietlark/Surfaces/Notes/NoteStage.h"
 #include "Quietlark/Surfaces/Notes/PillPlace.h"
-#include "Quietlark/Surfaces/Notes/WorkingScreen.h"
 
 #include <utility>
 
@@ -42,8 +42,8 @@ void CountdownController::show() {
 
 Card CountdownController::makePill() const {
     auto presence = std::make_shared<ObservedPresence>(wumble::NotePresence{.arrived = context_.loop.now()});
-    auto view =
-        std::make_unique<CountdownView>(context_.model, context_.loop, context_.appearance.value(), presence);
+    auto view = std::make_unique<CountdownView>(context_.model.state(), context_.loop,
+                                                context_.appearance.value(), presence);
     NoteSetting setting{.card = placeInPanel(view->pillWidth()), .radius = CountdownView::height / 2};
     setting.anchor = {0, 0};
     setting.sizePet = [pill = view.get()](double scale) { pill->sizePet(scale); };

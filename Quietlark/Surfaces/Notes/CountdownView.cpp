@@ -94,15 +94,14 @@ void drawLines(QPainter& painter, const HeadsUpWords::Pill& words, double width,
 
 } // namespace
 
-CountdownView::CountdownView(const AppModel& model, const MainLoop& loop, const Appearance& appearance,
+CountdownView::CountdownView(const AppState& state, const MainLoop& loop, const Appearance& appearance,
                              std::shared_ptr<const ObservedPresence> presence)
-    : model_(model), loop_(loop), presence_(std::move(presence)),
-      width_(wordsLeft + wordsWidth(model.state(), appearance) + wordsRight),
-      pet_(*this, model.state().today.value(), loop, {8, 8, pet, pet}, {0, 0, petRoom, petRoom}),
+    : state_(state), loop_(loop), presence_(std::move(presence)),
+      width_(wordsLeft + wordsWidth(state, appearance) + wordsRight),
+      pet_(*this, state.today.value(), loop, {8, 8, pet, pet}, {0, 0, petRoom, petRoom}),
       frames_(loop, [this](double) { turn(); }) {
     resize(QSizeF(width_, height).toSize());
     pet_.view().setPokable(false);
-    const auto& state = model_.state();
     const auto follows = [&](const auto&... fields) {
         (observers_.emplace_back(observe(fields, [this] { refresh(); })), ...);
     };
@@ -115,10 +114,9 @@ void CountdownView::refresh() {
     if (presence_->value().left) {
         return;
     }
-    const auto& state = model_.state();
-    typedAlong_ = typedAlong_ || state.typingNow.value();
-    auto fresh = HeadsUpWords::pill(state, typedAlong_);
-    pet_.view().setMood(fresh.waitsForTyping ? typingAlongMood(state) : wumble::WumbleMood::peek);
+    typedAlong_ = typedAlong_ || state_.typingNow.value();
+    auto fresh = HeadsUpWords::pill(state_, typedAlong_);
+    pet_.view().setMood(fresh.waitsForTyping ? typingAlongMood(state_) : wumble::WumbleMood::peek);
     if (fresh == words_) {
         return;
     }

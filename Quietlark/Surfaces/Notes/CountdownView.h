@@ -19,7 +19,7 @@ public:
     static constexpr double height = 56;
 
     /// Once the note leaves, it stays as it is.
-    CountdownView(const AppModel& model, const MainLoop& loop, const Appearance& appearance,
+    CountdownView(const AppState& state, const MainLoop& loop, const Appearance& appearance,
                   std::shared_ptr<const ObservedPresence> presence);
 
     /// Wide enough for all that it may come to say.
@@ -36,7 +36,7 @@ private:
     double turned() const;
     bool reducesMotion() const;
 
-    const AppModel& model_;
+    const AppState& state_;
     const MainLoop& loop_;
     std::shared_ptr<const ObservedPresence> presence_;
     double width_ = 0;

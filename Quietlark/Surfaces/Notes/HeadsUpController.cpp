@@ -1,9 +1,9 @@
 #include "Quietlark/Surfaces/Notes/HeadsUpController.h"
 
 #include "Quietlark/Model/ModelWords.h"
+#include "Quietlark/Surfaces/FloatingPanel.h"
 #include "Quietlark/Surfaces/Notes/HeadsUpView.h"
 #include "Quietlark/Surfaces/Notes/NoteStage.h"
-#include "Quietlark/Surfaces/Notes/WorkingScreen.h"
 #include "WumbleCore/Life/WumblePersonality.h"
 #include "WumbleCore/Motion/Choreography.h"
 
@@ -44,8 +44,9 @@ void HeadsUpController::show() {
     auto presence = std::make_shared<ObservedPresence>(wumble::NotePresence{.arrived = now});
     auto answer = std::make_shared<QProperty<HeadsUpAnswer>>(HeadsUpAnswer{.since = now});
     auto hello = std::make_shared<QProperty<WumbleHello>>();
-    auto view = std::make_unique<HeadsUpView>(context_.model, context_.loop,
-                                              HeadsUpView::Followed{presence, answer, hello});
+    auto view = std::make_unique<HeadsUpView>(
+        context_.model.state(), [&model = context_.model] { return HeadsUpWords::choices(model); },
+        context_.loop, HeadsUpView::Followed{presence, answer, hello});
     view->onHover = [self = std::weak_ptr(self_)](bool inside) {
         if (const auto controller = self.lock()) {
             (*controller)->hover(inside);
@@ -56,7 +57,7 @@ void HeadsUpController::show() {
             (*controller)->press(button);
         }
     };
-    NoteSetting setting{.card = cardInPanel};
+    NoteSetting setting{.card = cardInPanel, .anchor = NoteStage::roomiest};
     setting.sizePet = [card = view.get()](double scale) { card->sizePet(scale); };
     auto surface =
         hostNote(context_, std::move(view), presence, std::move(setting), {.identifier = "heads-up"});

@@ -25,6 +25,7 @@ constexpr double lineGap = 2;
 constexpr double buttonsAbove = 8;                    ///< least space between the words and the buttons
 constexpr double buttonGap = 8;                       ///< between faces
 constexpr double buttonMargin = PressControl::margin; ///< around a button's face, for its shadow
+constexpr double largestButtonText = 1.15;            ///< beyond it the words above would have to shrink
 constexpr double morphRise = 8; ///< points that words come up as they take the place of others
 
 constexpr wumble::Motion::Curve morphing{
@@ -50,10 +51,10 @@ double lineHeight(const TextStyle& style, const Appearance& appearance) {
 
 } // namespace
 
-HeadsUpView::HeadsUpView(const AppModel& model, const MainLoop& loop, Followed followed)
-    : model_(model), loop_(loop), followed_(std::move(followed)),
-      pet_(*this, model.state().today.value(), loop, petPlace, petRoom),
-      frames_(loop, [this](double) { morph(); }) {
+HeadsUpView::HeadsUpView(const AppState& state, std::function<HeadsUpWords::Choices()> choices,
+                         const MainLoop& loop, Followed followed)
+    : state_(state), choices_(std::move(choices)), loop_(loop), followed_(std::move(followed)),
+      pet_(*this, state.today.value(), loop, petPlace, petRoom), frames_(loop, [this](double) { morph(); }) {
     resize(cardSize.toSize());
     new PointerHover(*this, [this](bool inside) { onHover(inside); });
     follow();
@@ -64,22 +65,20 @@ HeadsUpView::HeadsUpView(const AppModel& model, const MainLoop& loop, Followed f
 HeadsUpView::~HeadsUpView() = default;
 
 void HeadsUpView::follow() {
-    const auto& state = model_.state();
-    const auto changed = [this] { refresh(); };
-    const auto follows = [&](const auto&... fields) {
-        (observers_.emplace_back(observe(fields, changed)), ...);
+    const auto follows = [this](const auto&... fields) {
+        (observers_.emplace_back(observe(fields, [this] { refresh(); })), ...);
     };
-    follows(state.secondsUntilBreak, state.upcomingKind, state.hold, state.dragging, state.detectorStatus,
-            state.breatherAfter, state.ignoringSmartPause, state.rawSmartActivity, state.snoozesRemaining,
-            state.canSnooze, state.now, state.today);
+    follows(state_.secondsUntilBreak, state_.upcomingKind, state_.hold, state_.dragging,
+            state_.detectorStatus, state_.breatherAfter, state_.ignoringSmartPause, state_.rawSmartActivity,
+            state_.snoozesRemaining, state_.canSnooze, state_.now, state_.today);
     observers_.emplace_back(observe(*followed_.hello, [this] { greet(); }));
     observers_.emplace_back(observe(*followed_.answer, [this] { turnIntoAnswer(); }));
 }
 
 HeadsUpView::Content HeadsUpView::content() const {
-    return {.headline = HeadsUpWords::headline(model_.state()),
-            .statusLines = HeadsUpWords::statusLines(model_.state()),
-            .buttons = HeadsUpWords::buttons(HeadsUpWords::choices(model_))};
+    return {.headline = HeadsUpWords::headline(state_),
+            .statusLines = HeadsUpWords::statusLines(state_),
+            .buttons = HeadsUpWords::buttons(choices_())};
 }
 
 /// A card that leaves or answers has nothing new to tell.
@@ -87,11 +86,10 @@ void HeadsUpView::refresh() {
     if (followed_.presence->value().left || followed_.answer->value().toast) {
         return;
     }
-    const auto& state = model_.state();
-    const auto& hold = state.hold.value();
+    const auto& hold = state_.hold.value();
     const bool waitsForHands = hold && std::holds_alternative<wumble::hold::Typing>(*hold);
-    pet_.view().setDay(state.today.value());
-    pet_.view().setMood(waitsForHands ? typingAlongMood(state) : wumble::WumbleMood::peek);
+    pet_.view().setDay(state_.today.value());
+    pet_.view().setMood(waitsForHands ? typingAlongMood(state_) : wumble::WumbleMood::peek);
     Content fresh = content();
     if (fresh == content_) {
         return;
@@ -109,7 +107,7 @@ void HeadsUpView::refresh() {
 void HeadsUpView::greet() {
     const auto& hello = followed_.hello->value();
     if (hello.started) {
-        const auto personality = model_.state().today.value().traits.personality;
+        const auto personality = state_.today.value().traits.personality;
         pet_.view().react(about(personality).greeting, hello.after);
     }
 }
@@ -133,7 +131,9 @@ void HeadsUpView::rebuildButtons() {
 /// In one row at the bottom, with the largest text with which it fits.
 void HeadsUpView::placeButtons(const Appearance& appearance) {
     placedFor_ = appearance;
-    withFittingText(appearance, [this](const Appearance& tried) {
+    Appearance wanted = appearance;
+    wanted.textScale = std::min(wanted.textScale, largestButtonText);
+    withFittingText(wanted, [this](const Appearance& tried) {
         double wide = -buttonGap;
         for (StickerButton* button : buttons_) {
             setAppearance(*button, tried);

@@ -30,7 +30,9 @@ public:
         std::shared_ptr<const QProperty<WumbleHello>> hello;
     };
 
-    HeadsUpView(const AppModel& model, const MainLoop& loop, Followed followed);
+    /// `choices` says what the person may do; it is asked whenever the state changes.
+    HeadsUpView(const AppState& state, std::function<HeadsUpWords::Choices()> choices, const MainLoop& loop,
+                Followed followed);
     ~HeadsUpView() override;
 
     void sizePet(double scale) { pet_.setScale(scale); }
@@ -63,7 +65,8 @@ private:
     void drawWords(QPainter& painter, const Appearance& appearance) const;
     void drawAnswer(QPainter& painter, const Appearance& appearance) const;
 
-    const AppModel& model_;
+    const AppState& state_;
+    std::function<HeadsUpWords::Choices()> choices_;
     const MainLoop& loop_;
     Followed followed_;
     Content content_;

@@ -13,8 +13,8 @@ namespace {
 constexpr double widestShare = 0.34; ///< of a screen
 constexpr double stringBelow = 52;   ///< points a hanging card may fall past its place, at scale 1
 
-/// How far a taut string gives: it takes half of what the fall has left.
-constexpr double give = 0.5;
+/// How far a taut string gives: it takes up most of what the fall has left.
+constexpr double give = 0.4;
 
 constexpr double factor(wumble::ReminderSize size) {
     switch (size) {

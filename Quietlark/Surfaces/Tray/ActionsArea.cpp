@@ -3,6 +3,7 @@
 #include "Quietlark/Surfaces/Tray/MenuRow.h"
 #include "Quietlark/Surfaces/Tray/Refill.h"
 #include "Quietlark/Surfaces/Tray/TrayActions.h"
+#include "Quietlark/Surfaces/Tray/Well.h"
 #include "Quietlark/Theme/Controls/StickerButton.h"
 
 #include <QHBoxLayout>
@@ -103,6 +104,7 @@ void ActionsArea::build() {
     if (const auto skip = std::ranges::find(rows_, Action::skip, &ActionRow::action); skip != rows_.end()) {
         column_->addWidget(button(*skip));
     }
+    showNow(*column_);
     setVisible(!rows_.empty());
 }
 
@@ -128,6 +130,8 @@ QWidget* ActionsArea::breakNow(const ActionRow& row) {
 
 QWidget* ActionsArea::pauseButton(const ActionRow& row) {
     StickerButton* made = sticker(row);
+    // The mark that more unfolds stands behind the words.
+    made->setLayoutDirection(layoutDirection() == Qt::LeftToRight ? Qt::RightToLeft : Qt::LeftToRight);
     QObject::connect(made, &QAbstractButton::clicked, this, [this] { toggle(Fold::pauses); });
     marks_[Fold::pauses] = [made](bool open) {
         made->setSymbol(open ? Symbol::chevronUp : Symbol::chevronDown);
@@ -146,8 +150,8 @@ QWidget* ActionsArea::besideEachOther(const std::vector<QWidget*>& widgets) {
 }
 
 QWidget* ActionsArea::otherBreaks() {
-    auto* fold = new QWidget;
-    auto* column = bare<QVBoxLayout>(fold);
+    auto* fold = new Well;
+    auto* column = fold->column();
     std::vector<QWidget*> lengths;
     for (const auto& other : TrayWords::otherBreaksOf(model_.state().settings.value())) {
         const auto start = [this, other] { TrayActions::startOther(other, model_); };
@@ -169,8 +173,8 @@ QWidget* ActionsArea::otherBreaks() {
 }
 
 QWidget* ActionsArea::pauses() {
-    auto* fold = new QWidget;
-    auto* column = bare<QVBoxLayout>(fold);
+    auto* fold = new Well;
+    auto* column = fold->column();
     for (const TrayWords::Pause& choice : TrayWords::pauses) {
         auto* row = new MenuRow(text(choice.label));
         QObject::connect(row, &QAbstractButton::clicked, this,

@@ -2,18 +2,20 @@
 
 #include "Quietlark/Theme/Controls/ControlFace.h"
 #include "Quietlark/Theme/Role.h"
+#include "Quietlark/Theme/Sticker.h"
 #include "Quietlark/Theme/TextLayout.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace quietlark {
 
 namespace {
 
 constexpr double sidePadding = 10;
-constexpr double air = 7; ///< above and below the words
+constexpr double air = 8; ///< above and below the words
 constexpr double detailGap = 1;
 constexpr double symbolGap = 10;
 constexpr double dot = 7;
@@ -34,6 +36,7 @@ double chevronSize(const Appearance& appearance) { return IconSize::small * appe
 MenuRow::MenuRow(const QString& text, QWidget* parent) : PressControl(parent) {
     setText(text);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setContentsMargins(margin, 0, margin, 0); // rows lie close to each other
 }
 
 void MenuRow::setSymbol(Symbol symbol) {
@@ -73,7 +76,8 @@ QSize MenuRow::sizeHint() const {
         size.rheight() +=
             detailGap + measureText(detail_, detailWords, std::max(room, narrowest), look).height();
     }
-    return withMargins(size);
+    return QSize(static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height())))
+        .grownBy(contentsMargins());
 }
 
 QSize MenuRow::minimumSizeHint() const { return {static_cast<int>(narrowest), sizeHint().height()}; }
@@ -131,7 +135,9 @@ void MenuRow::paintEvent(QPaintEvent*) {
         drawSymbol(painter, at.chevron, *unfolded_ ? Symbol::chevronUp : Symbol::chevronDown, ink);
     }
     if (showsFocus()) {
-        drawFocusRing(painter, face(), Radius::control, look);
+        drawFocusRing(painter,
+                      face().adjusted(focusRingReach, focusRingReach, -focusRingReach, -focusRingReach),
+                      Radius::small, look);
     }
 }
 

@@ -15,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -29,7 +30,9 @@ constexpr int edge = 2;     ///< of air around the card
 constexpr int padding = 9;  ///< inside it; what stands there has a margin of its own
 constexpr int groupGap = 2; ///< between groups, beside those margins
 constexpr int usualWidth = 336;
-constexpr int petSize = 84;
+constexpr double inset = 2; ///< of the dots from the outline
+constexpr double dotSpacing = 14;
+constexpr int petSize = 92;
 constexpr double waitsAgainFor = 2; ///< seconds
 
 QString text(std::string_view words) {
@@ -38,6 +41,16 @@ QString text(std::string_view words) {
 
 /// Larger letters want a wider card, but not as much wider as they are larger.
 double widthShare(double textScale) { return 1 + (textScale - 1) * 0.6; }
+
+/// Layouts keep the heights that they worked out until the event loop comes round.
+void invalidateLayouts(const QWidget& root) {
+    for (const QWidget* inside : root.findChildren<QWidget*>()) {
+        if (inside->layout() != nullptr) {
+            inside->layout()->invalidate();
+        }
+    }
+    root.layout()->invalidate();
+}
 
 /// A faint line between what is done now and the rest.
 class Rule : public QWidget {
@@ -64,9 +77,7 @@ MenuView::MenuView(const SurfaceContext& context, const TrayDoors& doors)
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setWidgetResizable(true);
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll_->viewport()->setAutoFillBackground(false);
     scroll_->setFocusPolicy(Qt::NoFocus);
-    page_->setAutoFillBackground(false);
     auto* column = new QVBoxLayout(page_);
     column->setContentsMargins(padding, padding, padding, padding);
     column->setSpacing(groupGap);
@@ -79,6 +90,8 @@ MenuView::MenuView(const SurfaceContext& context, const TrayDoors& doors)
         column->addWidget(widget);
     }
     scroll_->setWidget(page_);
+    scroll_->viewport()->setAutoFillBackground(false);
+    page_->setAutoFillBackground(false);
     slot_->dontWait = [this] { context_.model.ignoreSmartPause(); };
     slot_->waitAgain = [this] { waitAgain(); };
     actions_->changedSize = meta_->changedSize = [this] { settle(); };
@@ -124,6 +137,7 @@ void MenuView::refresh() {
 void MenuView::refreshHeader() {
     const AppState& state = context_.model.state();
     const wumble::WumbleDay& today = state.today.value();
+    pet_->setAppearance(appearanceOf(*this));
     pet_->setDay(today);
     pet_->setMood(mood(state));
     pet_->setFamilyName(text(state.life.value().name));
@@ -149,6 +163,7 @@ void MenuView::waitAgain() {
 
 /// The size follows what is there now, at once: a popover that grows a frame later flickers.
 void MenuView::settle() {
+    invalidateLayouts(*page_);
     page_->layout()->activate();
     if (const QSize hint = sizeHint(); hint != lastHint_) {
         lastHint_ = hint;
@@ -187,8 +202,14 @@ void MenuView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF card = QRectF(rect()).adjusted(edge, edge, -edge - Lift::floating, -edge - Lift::floating);
+    const Appearance look = appearanceOf(*this);
     drawSticker(painter, card, {.fill = Surface::paper, .radius = Radius::large, .lift = Lift::floating},
-                appearanceOf(*this));
+                look);
+    QPainterPath inside;
+    inside.addRoundedRect(card.adjusted(inset, inset, -inset, -inset), Radius::large - inset,
+                          Radius::large - inset);
+    painter.setClipPath(inside);
+    drawDotGrid(painter, card, dotSpacing, colour(Role::grain, look));
 }
 
 } // namespace quietlark

@@ -2,6 +2,7 @@
 
 #include "Quietlark/Surfaces/TextBlock.h"
 #include "Quietlark/Surfaces/Tray/MenuRow.h"
+#include "Quietlark/Surfaces/Tray/Well.h"
 #include "Quietlark/Theme/Controls/IconButton.h"
 
 #include <QHBoxLayout>
@@ -73,8 +74,9 @@ QWidget* MetaArea::settingsRow() {
 }
 
 QWidget* MetaArea::fold() {
-    fold_ = new QWidget;
-    auto* column = bare<QVBoxLayout>(fold_);
+    auto* well = new Well;
+    auto* column = well->column();
+    fold_ = well;
     column->addWidget(folded(TrayWords::restart, [this] { model_.restart(); }));
     running_ = folded(TrayWords::turnOff, [this] { model_.toggleRunning(); });
     column->addWidget(running_);

@@ -18,4 +18,15 @@ inline void empty(QLayout& layout) {
     }
 }
 
+/// Shows the widgets that were put into a layout, but for those that were hidden on purpose: left to itself a widget
+/// comes a moment later, and until then the layout reckons without it.
+inline void showNow(const QLayout& layout) {
+    for (int place = 0; place < layout.count(); ++place) {
+        QWidget* widget = layout.itemAt(place)->widget();
+        if (widget != nullptr && !widget->testAttribute(Qt::WA_WState_ExplicitShowHide)) {
+            widget->show();
+        }
+    }
+}
+
 } // namespace quietlark

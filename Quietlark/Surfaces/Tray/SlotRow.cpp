@@ -44,6 +44,7 @@ void SlotRow::build() {
     } else {
         std::visit([this](const auto& standing) { add(standing); }, slot_);
     }
+    showNow(*layout());
     setVisible(said_ || !std::holds_alternative<TrayWords::slot::None>(slot_));
 }
 

@@ -49,6 +49,7 @@ StatusItemController::StatusItemController(const SurfaceContext& context, TrayIt
       appearanceWatch_(observe(context.appearance, [this] {
           if (popover_) {
               setAppearance(*popover_->view, context_.appearance.value());
+              popover_->view->refresh();
               fit();
           }
           refreshPicture();

@@ -29,7 +29,7 @@ constexpr std::array<std::string_view, std::variant_size_v<wumble::SmartActivity
     "the call", "the share", "the video", "the game", ""};
 
 /// Minutes of a break of another length.
-constexpr std::array<int, 4> otherMinutes{2, 5, 10, 15};
+constexpr std::array<int, 3> otherMinutes{5, 10, 15};
 
 std::string noun(const wumble::SmartActivity& activity) {
     const auto* focus = std::get_if<wumble::activity::FocusApp>(&activity);

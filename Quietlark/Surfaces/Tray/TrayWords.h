@@ -90,7 +90,7 @@ struct ActionRow {
 std::vector<ActionRow> actions(const AppState& state, const wumble::BreakEngine& engine);
 
 /// "3 breaks · 12 min rested"
-std::string todayCounts(const wumble::DaySummary& today);
+std::string todayCounts(const wumble::DaySummary& day);
 
 inline constexpr std::string_view today = "Today";
 inline constexpr std::string_view crew = "wumble crew & stats";
@@ -118,7 +118,7 @@ struct OtherBreak {
 
     bool operator==(const OtherBreak&) const = default;
 };
-std::vector<OtherBreak> otherBreaksOf(const wumble::WumbleSettings& settings);
+std::vector<OtherBreak> otherBreaksOf(const wumble::WumbleSettings& choices);
 
 /// Seconds; absent until the person resumes.
 struct Pause {

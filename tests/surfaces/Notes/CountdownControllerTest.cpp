@@ -8,16 +8,12 @@ namespace quietlark::test {
 namespace {
 
 struct CountdownControllerTest : NotesFixture {
-    CountdownControllerTest() : NotesFixture([](auto& settings) { settings.holdOffWhileTyping = true; }) {
+    explicit CountdownControllerTest(double countdownDuration = 10)
+        : NotesFixture([countdownDuration](auto& settings) {
+              settings.holdOffWhileTyping = true;
+              settings.countdownDuration = countdownDuration;
+          }) {
         driver.model().install({.countdown = &controller});
-    }
-
-    RecordedSurface& awaitPill() {
-        for (int second = 0; second < 4 * 3600 && host.top("countdown") == nullptr; ++second) {
-            driver.loop.advance(1);
-        }
-        EXPECT_NE(host.top("countdown"), nullptr);
-        return *host.top("countdown");
     }
 
     static std::string words(RecordedSurface& surface) {
@@ -64,7 +60,7 @@ TEST_F(CountdownControllerTest, itsSizeIsGivenBackInPlace) {
 }
 
 TEST_F(CountdownControllerTest, itCountsTheLastSecondsAndLeaves) {
-    RecordedSurface& pill = awaitPill();
+    RecordedSurface& pill = await("countdown");
     const int left = std::stoi(words(pill).substr(std::string("Quick break in ").size()));
     driver.loop.advance(2);
     EXPECT_EQ(words(pill), "Quick break in " + std::to_string(left - 2));
@@ -79,15 +75,30 @@ TEST_F(CountdownControllerTest, itCountsTheLastSecondsAndLeaves) {
 }
 
 TEST_F(CountdownControllerTest, handsThatWorkOnAreSeenWithinATenthOfASecond) {
-    RecordedSurface& pill = awaitPill();
+    RecordedSurface& pill = await("countdown");
     driver.loop.advance(0.3);
     ASSERT_FALSE(driver.state().typingNow.value());
     driver.desktop.secondsSinceKeyDown = 0;
     driver.loop.advance(0.11);
     EXPECT_TRUE(driver.state().typingNow.value());
+    const auto frozen = words(pill);
     driver.loop.advance(20);
-    EXPECT_EQ(words(pill), "Break waits finish typing");
+    EXPECT_EQ(words(pill), frozen) << "the count stands while they do";
     EXPECT_TRUE(pill.isMapped());
+}
+
+struct UncountedTest : CountdownControllerTest {
+    UncountedTest() : CountdownControllerTest(0) {}
+};
+
+TEST_F(UncountedTest, aBreakThatTypingHoldsUpSaysWhatItWaitsFor) {
+    driver.desktop.secondsSinceKeyDown = 0;
+    RecordedSurface& pill = await("countdown");
+    EXPECT_EQ(words(pill), "Break waits finish typing");
+    driver.desktop.leftButtonHeld = true;
+    driver.desktop.secondsSinceLeftMouseDown = 5;
+    driver.loop.advance(1);
+    EXPECT_EQ(words(pill), "Break waits finish dragging");
 }
 
 TEST_F(CountdownControllerTest, onceItLeavesNobodyLooksAtTheHands) {

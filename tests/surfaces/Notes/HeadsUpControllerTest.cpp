@@ -11,6 +11,7 @@ namespace {
 struct HeadsUpControllerTest : NotesFixture {
     explicit HeadsUpControllerTest(const std::function<void(wumble::WumbleSettings&)>& choose =
                                        [](auto& settings) {
+                                           settings.headsUp = wumble::HeadsUpMode::all;
                                            settings.headsUpLead = 60;
                                            settings.headsUpVisibleFor = 10;
                                        })
@@ -19,13 +20,7 @@ struct HeadsUpControllerTest : NotesFixture {
     }
 
     /// Until the model announces the next break.
-    RecordedSurface& awaitCard() {
-        for (int second = 0; second < 4 * 3600 && host.top("heads-up") == nullptr; ++second) {
-            driver.loop.advance(1);
-        }
-        EXPECT_NE(host.top("heads-up"), nullptr);
-        return *host.top("heads-up");
-    }
+    RecordedSurface& awaitCard() { return await("heads-up"); }
 
     static NoteStage& stage(RecordedSurface& surface) { return dynamic_cast<NoteStage&>(surface.view()); }
     static bool isLeaving(RecordedSurface& surface) { return stage(surface).presence().left.has_value(); }
@@ -42,7 +37,7 @@ struct HeadsUpControllerTest : NotesFixture {
         throw std::logic_error("no pet");
     }
     bool petGreets(RecordedSurface& surface) {
-        return pet(surface).pose(driver.loop.uptime()).gesture != wumble::WumbleGesture::still;
+        return pet(surface).pose(driver.loop.uptime()).gesture == wumble::WumbleGesture::hop;
     }
 
     HeadsUpController controller{context};
@@ -90,9 +85,9 @@ TEST_F(HeadsUpControllerTest, aPressedSnoozeTurnsTheCardIntoItsAnswer) {
     EXPECT_EQ(pet(card).mood(), wumble::WumbleMood::snoozed);
     EXPECT_GT(driver.state().secondsUntilBreak.value(), 300);
 
-    driver.loop.advance(3.9);
+    driver.loop.advance(wumble::Toast::snoozed(300).duration - 0.1);
     EXPECT_FALSE(isLeaving(card)) << "the answer has its own time";
-    driver.loop.advance(0.7);
+    driver.loop.advance(0.2);
     EXPECT_TRUE(isLeaving(card));
     driver.loop.advance(0.5);
     EXPECT_TRUE(host.surfaces().empty());

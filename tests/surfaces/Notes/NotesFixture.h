@@ -22,6 +22,18 @@ struct NotesFixture : testing::Test {
     QProperty<Appearance> appearance;
     SurfaceContext context{driver.model(), driver.loop, host, windows, &driver.accessibility, appearance};
 
+    /// Lets the day go on until the model shows such a surface.
+    RecordedSurface& await(std::string_view identifier) {
+        constexpr double look = 0.2;
+        for (double waited = 0; waited < 4 * 3600 && host.top(identifier) == nullptr; waited += look) {
+            driver.loop.advance(look);
+        }
+        if (host.top(identifier) == nullptr) {
+            throw std::logic_error("it never came");
+        }
+        return *host.top(identifier);
+    }
+
     /// What was spoken since it was last asked.
     Told spoken() {
         Told told = driver.told();

@@ -5,12 +5,14 @@
 
 #include <QGuiApplication>
 
+#include <utility>
+
 namespace quietlark {
 
 std::unique_ptr<SurfaceHost> makeSurfaceHost() {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 && x11->connection()) {
-        return std::make_unique<X11SurfaceHost>(x11->connection());
+    if (auto wire = x11 ? X11Wire::open() : nullptr) {
+        return std::make_unique<X11SurfaceHost>(std::move(wire), x11->connection());
     }
     return std::make_unique<NullSurfaceHost>();
 }

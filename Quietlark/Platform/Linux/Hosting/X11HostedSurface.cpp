@@ -5,11 +5,31 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <cstdint>
+#include <string>
 #include <utility>
-
-#include <xcb/shape.h>
+#include <vector>
 
 namespace quietlark {
+
+namespace {
+
+constexpr std::uint32_t neverBypass = 2;
+constexpr double thereFrom = 0.5;
+
+std::vector<xcb_rectangle_t> pixelsOf(const QRegion& region, double scale) {
+    std::vector<xcb_rectangle_t> rectangles;
+    for (const QRect& each : region) {
+        const QRect pixels =
+            QRectF(QPointF(each.topLeft()) * scale, QSizeF(each.size()) * scale).toAlignedRect();
+        rectangles.push_back({static_cast<std::int16_t>(pixels.x()), static_cast<std::int16_t>(pixels.y()),
+                              static_cast<std::uint16_t>(pixels.width()),
+                              static_cast<std::uint16_t>(pixels.height())});
+    }
+    return rectangles;
+}
+
+} // namespace
 
 class X11HostedSurface::Window final : public QWidget {
 public:
@@ -22,7 +42,6 @@ public:
         setWindowTitle(identifier);
         setWindowRole(identifier);
         setAttribute(Qt::WA_TranslucentBackground);
-        setAttribute(Qt::WA_X11NetWmWindowTypeNotification);
         setAttribute(Qt::WA_ShowWithoutActivating);
         setAttribute(Qt::WA_QuitOnClose, false);
         view.setParent(this);
@@ -39,9 +58,10 @@ private:
 
 X11HostedSurface::X11HostedSurface(X11Desk& desk, std::unique_ptr<QWidget> view, const SurfaceStyle& style)
     : desk_(desk), style_(style), window_(std::make_unique<Window>(*view, style)), view_(view.release()),
-      takesPointer_(style.takesPointer) {}
+      takesPointer_(style.takesPointer),
+      blendingFollowed_(desk_.compositing.observe([this] { showOpacity(); })) {}
 
-X11HostedSurface::~X11HostedSurface() = default;
+X11HostedSurface::~X11HostedSurface() { setMapped(false); }
 
 xcb_window_t X11HostedSurface::id() const { return static_cast<xcb_window_t>(window_->internalWinId()); }
 
@@ -54,59 +74,115 @@ void X11HostedSurface::setFrame(const QRectF& frame) {
     window_->setGeometry(place);
 }
 
-void X11HostedSurface::makeWindow() {
-    if (id() == XCB_NONE) {
-        window_->winId();
-        shapeInput();
+void X11HostedSurface::make() {
+    if (isMade()) {
+        return;
     }
+    window_->winId();
+    mark();
+    shapeInput();
+    showOpacity();
+}
+
+/// So that others can tell what it is, and a compositor neither leaves it out nor draws a shadow of its own.
+void X11HostedSurface::mark() {
+    const std::string instanceAndClass = style_.identifier + '\0' + "Quietlark" + '\0';
+    xcb_change_property(desk_.connection, XCB_PROP_MODE_REPLACE, id(), XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
+                        static_cast<std::uint32_t>(instanceAndClass.size()), instanceAndClass.data());
+    const auto setNumber = [this](xcb_atom_t property, xcb_atom_t type, std::uint32_t number) {
+        xcb_change_property(desk_.connection, XCB_PROP_MODE_REPLACE, id(), property, type, 32, 1, &number);
+    };
+    setNumber(desk_.windowType, XCB_ATOM_ATOM, desk_.notificationType);
+    setNumber(desk_.bypassCompositor, XCB_ATOM_CARDINAL, neverBypass);
+    setNumber(desk_.shadow, XCB_ATOM_CARDINAL, 0);
 }
 
 void X11HostedSurface::setMapped(bool mapped) {
-    if (mapped == isMapped_) {
-        return;
+    if (mapped != isMapped_) {
+        isMapped_ = mapped;
+        mapped ? map() : unmap();
     }
-    isMapped_ = mapped;
-    if (!mapped) {
-        window_->hide();
-        return;
-    }
-    makeWindow();
-    window_->show();
-    if (style_.keyboard == Keyboard::whole && !window_->focusWidget()) {
-        view_->setFocus();
-    }
-    bringToFront();
 }
 
-bool X11HostedSurface::isShowing() const { return isMapped_; }
+void X11HostedSurface::map() {
+    make();
+    window_->show();
+    desk_.layers.add(id(), style_.layer);
+    if (style_.keyboard == Keyboard::whole) {
+        if (!window_->focusWidget()) {
+            view_->setFocus();
+        }
+        desk_.keyboard.take(id());
+    }
+}
+
+void X11HostedSurface::unmap() {
+    desk_.layers.remove(id());
+    desk_.keyboard.giveBack(id());
+    window_->hide();
+}
+
+bool X11HostedSurface::isShowing() const {
+    return isMapped_ && desk_.layers.isSeen(id()).value_or(window_->windowHandle()->isExposed());
+}
 
 void X11HostedSurface::bringToFront() {
     setMapped(true);
-    window_->raise();
+    desk_.layers.bringToFront(id());
 }
 
-void X11HostedSurface::setOpacity(double opacity) { window_->setWindowOpacity(opacity); }
+void X11HostedSurface::setOpacity(double opacity) {
+    opacity_ = opacity;
+    if (isMade()) {
+        showOpacity();
+    }
+}
 
 void X11HostedSurface::setTakesPointer(bool takes) {
     takesPointer_ = takes;
-    if (id() != XCB_NONE) {
+    if (isMade()) {
         shapeInput();
+    }
+}
+
+void X11HostedSurface::setOutline(const QRegion& outline) {
+    outline_ = outline;
+    if (isMade()) {
+        showOpacity();
     }
 }
 
 void X11HostedSurface::shapeInput() {
+    shape(XCB_SHAPE_SK_INPUT, takesPointer_ ? std::nullopt : std::optional(QRegion()));
+}
+
+/// Where nothing blends, a window has an outline and is either there or not.
+void X11HostedSurface::showOpacity() {
+    if (!isMade()) {
+        return;
+    }
+    if (desk_.compositing.blends()) {
+        window_->setWindowOpacity(opacity_);
+        shape(XCB_SHAPE_SK_BOUNDING, {});
+    } else {
+        window_->setWindowOpacity(1);
+        shape(XCB_SHAPE_SK_BOUNDING, opacity_ < thereFrom ? QRegion() : outline_);
+    }
+}
+
+/// `region` is in points of the view; absent: all of the window.
+void X11HostedSurface::shape(xcb_shape_kind_t kind, const std::optional<QRegion>& region) {
     if (!desk_.canShape) {
         return;
     }
-    if (takesPointer_) {
-        xcb_shape_mask(desk_.connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, id(), 0, 0, XCB_NONE);
+    if (!region) {
+        xcb_shape_mask(desk_.connection, XCB_SHAPE_SO_SET, kind, id(), 0, 0, XCB_NONE);
     } else {
-        xcb_shape_rectangles(desk_.connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT,
-                             XCB_CLIP_ORDERING_UNSORTED, id(), 0, 0, 0, nullptr);
+        const auto rectangles = pixelsOf(*region, window_->devicePixelRatioF());
+        xcb_shape_rectangles(desk_.connection, XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED, id(), 0, 0,
+                             static_cast<std::uint32_t>(rectangles.size()), rectangles.data());
     }
     xcb_flush(desk_.connection);
 }
-
-void X11HostedSurface::setOutline(const QRegion&) {}
 
 } // namespace quietlark

@@ -6,8 +6,9 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
-#include <xcb/xproto.h>
+#include <xcb/shape.h>
 
 namespace quietlark {
 
@@ -36,8 +37,14 @@ private:
     class Window;
 
     xcb_window_t id() const;
-    void makeWindow();
+    bool isMade() const { return id() != XCB_NONE; }
+    void make();
+    void mark();
+    void map();
+    void unmap();
     void shapeInput();
+    void showOpacity();
+    void shape(xcb_shape_kind_t kind, const std::optional<QRegion>& region);
 
     X11Desk& desk_;
     SurfaceStyle style_;
@@ -46,6 +53,9 @@ private:
     QRectF frame_;
     bool isMapped_ = false;
     bool takesPointer_;
+    double opacity_ = 1;
+    std::optional<QRegion> outline_; ///< absent: all of it
+    std::shared_ptr<void> blendingFollowed_;
 };
 
 } // namespace quietlark

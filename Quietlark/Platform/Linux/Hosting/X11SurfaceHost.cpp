@@ -1,63 +1,51 @@
 #include "Quietlark/Platform/Linux/Hosting/X11SurfaceHost.h"
 
+#include "Quietlark/Platform/Linux/Hosting/SoftPicture.h"
 #include "Quietlark/Platform/Linux/Hosting/X11HostedSurface.h"
 
-#include <QCursor>
 #include <QGuiApplication>
+#include <QPixmap>
 #include <QScreen>
 
 #include <utility>
 
-#include <xcb/shape.h>
-
 namespace quietlark {
 
-namespace {
+X11SurfaceHost::X11SurfaceHost(std::unique_ptr<X11Wire> wire, xcb_connection_t* connection)
+    : desk_(std::move(wire), connection) {}
 
-Screen screenOf(const QScreen& screen) {
-    const QString model = screen.model();
-    return {.name = (model.isEmpty() ? screen.name() : model).toStdString(),
-            .frame = screen.geometry(),
-            .visibleFrame = screen.availableGeometry(),
-            .scale = screen.devicePixelRatio(),
-            .refreshRate = screen.refreshRate()};
-}
-
-bool hasShapes(xcb_connection_t* connection) {
-    const auto* extension = xcb_get_extension_data(connection, &xcb_shape_id);
-    return extension && extension->present;
-}
-
-} // namespace
-
-X11SurfaceHost::X11SurfaceHost(xcb_connection_t* connection)
-    : desk_{.connection = connection, .canShape = hasShapes(connection)} {}
-
-std::vector<Screen> X11SurfaceHost::screens() const {
-    std::vector<Screen> screens;
-    for (const QScreen* screen : QGuiApplication::screens()) {
-        screens.push_back(screenOf(*screen));
-    }
-    return screens;
-}
+std::vector<Screen> X11SurfaceHost::screens() const { return desk_.screens.screens(); }
 
 SurfaceHost::Subscription X11SurfaceHost::observeScreens(std::function<void()> changed) {
-    return screenObservers_.add(std::move(changed));
+    return desk_.screens.observe(std::move(changed));
 }
 
-std::optional<QPointF> X11SurfaceHost::pointer() const { return QCursor::pos(); }
+std::optional<QPointF> X11SurfaceHost::pointer() const {
+    const auto pixels = desk_.pointer.pixels();
+    return pixels ? desk_.screens.points(*pixels) : std::nullopt;
+}
 
 SurfaceHost::Subscription X11SurfaceHost::observeOutside(std::function<void()> pressedOrLeft) {
-    return outsideObservers_.add(std::move(pressedOrLeft));
+    return desk_.outside.observe(std::move(pressedOrLeft));
 }
 
-bool X11SurfaceHost::blends() const { return true; }
+bool X11SurfaceHost::blends() const { return desk_.compositing.blends(); }
 
-std::optional<QImage> X11SurfaceHost::backdrop(const Screen&) const { return {}; }
+/// The X server of a Wayland session has nothing to show of what lies on the screen.
+std::optional<QImage> X11SurfaceHost::backdrop(const Screen& screen) const {
+    QScreen* source = QGuiApplication::screenAt(screen.frame.center().toPoint());
+    if (!source || source->name().startsWith(QLatin1String("XWAYLAND"))) {
+        return {};
+    }
+    const QImage picture = source->grabWindow().toImage();
+    return picture.isNull() ? std::nullopt : std::optional(softPicture(picture));
+}
 
 std::unique_ptr<HostedSurface> X11SurfaceHost::host(std::unique_ptr<QWidget> view,
                                                     const SurfaceStyle& style) {
     return std::make_unique<X11HostedSurface>(desk_, std::move(view), style);
 }
+
+void X11SurfaceHost::yieldKeyboard() { desk_.keyboard.yield(); }
 
 } // namespace quietlark

@@ -1,0 +1,80 @@
+#include "Quietlark/Renderers/PetSheets.h"
+#include "Quietlark/Renderers/PreviewStage.h"
+#include "Quietlark/Renderers/Sheet.h"
+#include "Quietlark/Theme/AppearanceScope.h"
+#include "Quietlark/Welcome/WelcomeView.h"
+
+#include <QAbstractButton>
+
+#include <array>
+#include <string>
+
+namespace quietlark {
+
+namespace {
+
+/// Of a copy that lies where it may be gone tomorrow.
+struct NoLogin final : LoginItem {
+    bool isEnabled() const override { return false; }
+    bool canRegister() const override { return false; }
+    std::optional<std::string> set(bool) override {
+        return "Open at login only works for the copy of Quietlark in Applications.";
+    }
+};
+
+QAbstractButton* button(QWidget& root, std::string_view name) {
+    for (auto* candidate : root.findChildren<QAbstractButton*>()) {
+        if (candidate->accessibleName().toStdString() == name) {
+            return candidate;
+        }
+    }
+    return nullptr;
+}
+
+struct Scene {
+    const char* name;
+    std::vector<std::string_view> presses;
+};
+
+const std::array scenes{
+    Scene{"welcome", {}},
+    Scene{"welcome-customized", {WelcomeWords::customize}},
+};
+
+QImage picture(const Scene& scene, const Appearance& appearance, double scale) {
+    PreviewStage stage(
+        appearance, [](auto&) {}, 0);
+    stage.start();
+    NoLogin login;
+    WelcomeView view(stage.model, &login);
+    view.setAttribute(Qt::WA_DontShowOnScreen);
+    setAppearance(view, appearance);
+    view.refresh();
+    view.show();
+    for (const std::string_view name : scene.presses) {
+        if (QAbstractButton* pressed = button(view, name)) {
+            pressed->click();
+        }
+    }
+    stage.advance(0.5);
+    view.resize(view.sizeHint());
+    QImage image(view.size() * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::transparent);
+    view.render(&image);
+    return image;
+}
+
+} // namespace
+
+bool renderWelcomePictures(const std::filesystem::path& folder, Appearance appearance) {
+    bool saved = true;
+    for (const Scene& scene : scenes) {
+        saved = save(picture(scene, appearance, 2), folder, std::string(scene.name) + ".png") && saved;
+    }
+    saved = save(picture(scenes.front(), appearance, 1), folder, "welcome-1x.png") && saved;
+    appearance.textScale = 1.5;
+    return save(picture(scenes.back(), appearance, 1), folder, "welcome-large-text.png") && saved;
+}
+
+} // namespace quietlark

@@ -1,0 +1,260 @@
+#include "Quietlark/Welcome/WelcomeView.h"
+
+#include "Quietlark/Pet/WumbleView.h"
+#include "Quietlark/Surfaces/TextBlock.h"
+#include "Quietlark/Surfaces/Tray/MenuRow.h"
+#include "Quietlark/Theme/AppearanceScope.h"
+#include "Quietlark/Theme/Controls/Segments.h"
+#include "Quietlark/Theme/Controls/StickerButton.h"
+#include "Quietlark/Theme/Controls/StickerSwitch.h"
+#include "Quietlark/Theme/Sticker.h"
+#include "Quietlark/Welcome/PaperCard.h"
+#include "WumbleCore/Words/Format.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quietlark {
+
+namespace {
+
+constexpr int usualWidth = 560;
+constexpr int edge = 24;
+constexpr int groupGap = 14;
+constexpr int petSize = 148;
+constexpr double previewLength = 12; ///< seconds
+
+QString text(std::string_view words) {
+    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
+}
+
+template <class Layout> Layout* bare(QWidget* widget, int spacing = 0) {
+    auto* layout = new Layout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(spacing);
+    return layout;
+}
+
+QStringList durations(const std::vector<double>& choices) {
+    QStringList words;
+    for (const double seconds : choices) {
+        words.append(QString::fromStdString(wumble::Format::duration(seconds)));
+    }
+    return words;
+}
+
+template <class Choices, class Value> int placeOf(const Choices& choices, const Value& value) {
+    return static_cast<int>(std::ranges::find(choices, value) - choices.begin());
+}
+
+TextBlock* words(std::string_view said, const TextStyle& style) { return new TextBlock(text(said), style); }
+
+const TextStyle strong = {.mostLines = 2, .weight = QFont::DemiBold};
+const TextStyle remark = {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 3};
+const TextStyle summary = {.token = TypeToken::body, .ink = Role::textMuted, .mostLines = 3};
+
+} // namespace
+
+WelcomeView::WelcomeView(AppModel& model, LoginItem* loginItem, QWidget* parent)
+    : QWidget(parent), model_(model), loginItem_(loginItem), form_(model.state().settings.value()) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(edge, edge, edge, edge);
+    column->setSpacing(groupGap);
+    column->addWidget(hello());
+    column->addWidget(rhythmCard());
+    if (loginItem_ != nullptr) {
+        column->addWidget(loginCard());
+    }
+    column->addWidget(actions());
+    column->addStretch(1);
+    loginErrorWatch_ = observe(model_.state().loginItemError, [this] { refresh(); });
+    refresh();
+}
+
+QWidget* WelcomeView::hello() {
+    auto* row = new QWidget;
+    auto* layout = bare<QHBoxLayout>(row, 16);
+    pet_ = new WumbleView(model_.state().today.value());
+    pet_->setFixedSize(petSize, petSize);
+    pet_->setMood(wumble::WumbleMood::peek);
+    layout->addWidget(pet_);
+    auto* said = new QVBoxLayout;
+    said->setSpacing(8);
+    said->addStretch(1);
+    said->addWidget(
+        words(WelcomeWords::hello, {.token = TypeToken::windowTitle, .mostLines = 2, .balanced = true}));
+    said->addWidget(words(WelcomeWords::introduction, {.token = TypeToken::body, .mostLines = 8}));
+    said->addStretch(1);
+    layout->addLayout(said, 1);
+    return row;
+}
+
+QWidget* WelcomeView::rhythmCard() {
+    auto* card = new PaperCard;
+    QVBoxLayout* column = card->column();
+    column->addWidget(words(WelcomeWords::pickARhythm, {.token = TypeToken::title}));
+    column->addWidget(lengths(form_.quickEvery(), form_.rhythm().quickEvery, &WelcomeForm::chooseQuickEvery));
+    quick_ = new TextBlock({}, summary);
+    long_ = new TextBlock({}, summary);
+    column->addWidget(summaries());
+    fold_ = new MenuRow(text(WelcomeWords::customize));
+    fold_->setContentsMargins(0, 0, 0, 0);
+    QObject::connect(fold_, &QAbstractButton::clicked, this, [this] { customize(!customizing_); });
+    column->addWidget(fold_);
+    details_ = details();
+    column->addWidget(details_);
+    column->addWidget(
+        words(WelcomeWords::later, {.token = TypeToken::caption, .ink = Role::textMuted, .mostLines = 2}));
+    customize(false);
+    return card;
+}
+
+QWidget* WelcomeView::summaries() {
+    auto* both = new QWidget;
+    auto* grid = bare<QGridLayout>(both, 6);
+    grid->setHorizontalSpacing(12);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(words(WelcomeWords::quickBreaks, strong), 0, 0);
+    grid->addWidget(quick_, 0, 1);
+    grid->addWidget(words(WelcomeWords::longBreaks, strong), 1, 0);
+    grid->addWidget(long_, 1, 1);
+    return both;
+}
+
+QWidget* WelcomeView::details() {
+    auto* rows = new QWidget;
+    auto* column = bare<QVBoxLayout>(rows, 10);
+    const WelcomeRhythm& now = form_.rhythm();
+    column->addWidget(detailRow(WelcomeWords::quickLength, lengths(form_.quickLengths(), now.quickLength,
+                                                                   &WelcomeForm::chooseQuickLength)));
+    column->addWidget(detailRow(WelcomeWords::longLength, lengths(form_.longLengths(), now.longLength,
+                                                                  &WelcomeForm::chooseLongLength)));
+    column->addWidget(detailRow(WelcomeWords::nudges, nudges()));
+    return rows;
+}
+
+QWidget* WelcomeView::detailRow(const WelcomeWords::Row& row, Segments* choices) {
+    auto* whole = new QWidget;
+    auto* layout = bare<QHBoxLayout>(whole, 12);
+    auto* said = new QVBoxLayout;
+    said->setSpacing(1);
+    said->addWidget(words(row.title, strong));
+    said->addWidget(words(row.detail, remark));
+    layout->addLayout(said, 1);
+    choices->setAccessibleName(text(row.title));
+    layout->addWidget(choices);
+    return whole;
+}
+
+Segments* WelcomeView::lengths(const std::vector<double>& choices, double current,
+                               void (WelcomeForm::*choose)(double)) {
+    auto* made = new Segments;
+    made->setChoices(durations(choices));
+    made->setCurrent(placeOf(choices, current));
+    made->chosen = [this, &choices, choose](int place) {
+        (form_.*choose)(choices[static_cast<std::size_t>(place)]);
+        refresh();
+    };
+    return made;
+}
+
+Segments* WelcomeView::nudges() {
+    auto* made = new Segments;
+    made->setChoices({QStringLiteral("None"), QStringLiteral("1"), QStringLiteral("2")});
+    made->setCurrent(placeOf(WelcomeForm::nudgeChoices, form_.rhythm().nudges));
+    made->chosen = [this](int place) {
+        form_.chooseNudges(WelcomeForm::nudgeChoices.at(static_cast<std::size_t>(place)));
+        refresh();
+    };
+    return made;
+}
+
+QWidget* WelcomeView::loginCard() {
+    auto* card = new PaperCard;
+    auto* row = new QWidget;
+    auto* layout = bare<QHBoxLayout>(row, 12);
+    auto* said = new QVBoxLayout;
+    said->setSpacing(1);
+    said->addWidget(words(WelcomeWords::login, strong));
+    said->addWidget(words(WelcomeWords::loginDetail, remark));
+    loginError_ = new TextBlock({}, {.token = TypeToken::callout, .mostLines = 4, .weight = QFont::DemiBold});
+    said->addWidget(loginError_);
+    layout->addLayout(said, 1);
+    login_ = new StickerSwitch(text(WelcomeWords::login));
+    login_->setChecked(loginItem_->isEnabled());
+    QObject::connect(login_, &QAbstractButton::clicked, this, [this](bool on) { switchLogin(on); });
+    layout->addWidget(login_);
+    card->column()->addWidget(row);
+    return card;
+}
+
+/// Done at once, so that what stands in its way is told while the switch is still in sight.
+void WelcomeView::switchLogin(bool on) {
+    model_.setOpenAtLogin(on);
+    openAtLogin_ = loginItem_->isEnabled();
+    login_->setChecked(*openAtLogin_);
+}
+
+QWidget* WelcomeView::actions() {
+    auto* row = new QWidget;
+    auto* layout = bare<QHBoxLayout>(row);
+    auto* preview = new StickerButton(text(WelcomeWords::previewABreak), StickerButton::Kind::quiet);
+    auto* look = new StickerButton(text(WelcomeWords::lookAround), StickerButton::Kind::plain);
+    auto* start = new StickerButton(text(WelcomeWords::startBreaks), StickerButton::Kind::primary);
+    QObject::connect(preview, &QAbstractButton::clicked, this,
+                     [this] { model_.startPreview(previewLength); });
+    QObject::connect(look, &QAbstractButton::clicked, this,
+                     [this] { done(AppModel::AfterWelcome::staySleeping); });
+    QObject::connect(start, &QAbstractButton::clicked, this, [this] { done(AppModel::AfterWelcome::wake); });
+    layout->addWidget(preview);
+    layout->addStretch(1);
+    layout->addWidget(look);
+    layout->addWidget(start);
+    return row;
+}
+
+void WelcomeView::customize(bool open) {
+    customizing_ = open;
+    details_->setVisible(open);
+    fold_->setText(text(open ? WelcomeWords::fewerOptions : WelcomeWords::customize));
+    fold_->setUnfolded(open);
+    fold_->setToolTip(text(open ? WelcomeWords::fewerOptionsHint : WelcomeWords::customizeHint));
+    fold_->setAccessibleDescription(fold_->toolTip());
+    wantsOtherSize();
+}
+
+void WelcomeView::refresh() {
+    quick_->setText(QString::fromStdString(form_.quickSummary()));
+    long_->setText(QString::fromStdString(form_.longSummary()));
+    pet_->setAppearance(appearanceOf(*this));
+    if (loginError_ != nullptr) {
+        const auto& error = model_.state().loginItemError.value();
+        loginError_->setText(QString::fromStdString(error.value_or("")));
+        loginError_->setVisible(error.has_value());
+    }
+    wantsOtherSize();
+}
+
+std::optional<WelcomeRhythm> WelcomeView::rhythm() const {
+    return form_.isTouched() ? std::optional(form_.rhythm()) : std::nullopt;
+}
+
+QSize WelcomeView::sizeHint() const {
+    const double share = 1 + (appearanceOf(*this).textScale - 1) * 0.7;
+    const int width =
+        std::max(static_cast<int>(std::lround(usualWidth * share)), layout()->minimumSize().width());
+    return {width, layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
+                                                 : layout()->sizeHint().height()};
+}
+
+void WelcomeView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawStickerBackground(painter, rect(), appearanceOf(*this));
+}
+
+} // namespace quietlark
