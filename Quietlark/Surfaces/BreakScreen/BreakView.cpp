@@ -127,11 +127,10 @@ void BreakView::refresh() {
         lockButton_->setAttribute(Qt::WA_TransparentForMouseEvents);
         return frames_.start(setup_.screen.refreshRate);
     }
-    BreakContent next = breakContent(setup_.context.model, *setup_.stage, setup_.isPrimary, now);
-    // The model clears its state a moment before it tells the screen to leave: what stands goes on being shown.
-    if (next.scene == BreakScene::empty && content_.scene != BreakScene::empty) {
+    if (content_.scene != BreakScene::empty && isBetweenScenes(setup_.context.model, *setup_.stage)) {
         return;
     }
+    BreakContent next = breakContent(setup_.context.model, *setup_.stage, setup_.isPrimary, now);
     if (differOnlyInTime(next, content_)) {
         showTimes(next);
     } else if (next != content_) {
