@@ -14,7 +14,8 @@ constexpr int unknownOption = 64;
 
 bool renderReview(const std::filesystem::path& folder, Appearance appearance) {
     const bool popovers = renderTrayPictures(folder, appearance);
-    return renderWelcomePictures(folder, appearance) && popovers;
+    const bool breaks = renderBreakScreens(folder, appearance);
+    return renderWelcomePictures(folder, appearance) && popovers && breaks;
 }
 
 constexpr std::array table{
