@@ -1,5 +1,6 @@
 #include "Quietlark/AppDelegate.h"
 
+#include "Quietlark/KeyboardYieldingLock.h"
 #include "Quietlark/Platform/Linux/Hosting/SurfaceHosts.h"
 #include "Quietlark/Platform/Linux/LinuxPlatform.h"
 #include "Quietlark/SystemCalendar.h"
@@ -11,6 +12,7 @@
 #include <cstdio>
 #include <string>
 #include <system_error>
+#include <utility>
 
 namespace quietlark {
 
@@ -51,6 +53,7 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                       .calendar = systemCalendar()}),
       surfaces_({.model = model_, .loop = loop_, .host = *host_, .windows = *platform_.windows}),
       termination_([] { QCoreApplication::quit(); }) {
+    platform_.screenLock = std::make_unique<KeyboardYieldingLock>(std::move(platform_.screenLock), *host_);
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });
     beginWhenTheDesktopHasAnswered(options, loop_.uptime() + longestWaitForAnswers);

@@ -53,6 +53,8 @@ struct Show {
 
     void setStage(std::unique_ptr<QWidget> content, const QSizeF& size, NoteSetting setting) {
         setting.card = {QPointF(margin, margin), size};
+        setting.anchor =
+            presence->value().entrance == wumble::NoteEntrance::eye ? QPointF(0.5, 0.5) : NoteStage::roomiest;
         stage = std::make_unique<NoteStage>(std::move(content), presence, std::move(setting), loop);
         stage->resize((size + QSizeF(2 * margin, 2 * margin)).toSize());
         setAppearance(*stage, appearance);

@@ -5,7 +5,7 @@
 #include "Quietlark/Surfaces/BreakScreen/BreakView.h"
 #include "Quietlark/Surfaces/BreakScreen/OverlayLog.h"
 #include "Quietlark/Surfaces/BreakScreen/ShowingCheck.h"
-#include "Quietlark/Surfaces/Notes/WorkingScreen.h"
+#include "Quietlark/Surfaces/FloatingPanel.h"
 #include "WumbleCore/Foundation/Match.h"
 
 #include <utility>

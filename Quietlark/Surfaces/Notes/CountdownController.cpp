@@ -1,9 +1,9 @@
 #include "Quietlark/Surfaces/Notes/CountdownController.h"
 
+#include "Quietlark/Surfaces/FloatingPanel.h"
 #include "Quietlark/Surfaces/Notes/CountdownView.h"
 #include "Quietlark/Surfaces/Notes/NoteStage.h"
 #include "Quietlark/Surfaces/Notes/PillPlace.h"
-#include "Quietlark/Surfaces/FloatingPanel.h"
 
 #include <utility>
 

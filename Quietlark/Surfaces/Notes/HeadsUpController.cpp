@@ -1,9 +1,9 @@
 #include "Quietlark/Surfaces/Notes/HeadsUpController.h"
 
 #include "Quietlark/Model/ModelWords.h"
+#include "Quietlark/Surfaces/FloatingPanel.h"
 #include "Quietlark/Surfaces/Notes/HeadsUpView.h"
 #include "Quietlark/Surfaces/Notes/NoteStage.h"
-#include "Quietlark/Surfaces/FloatingPanel.h"
 #include "WumbleCore/Life/WumblePersonality.h"
 #include "WumbleCore/Motion/Choreography.h"
 
@@ -57,7 +57,7 @@ void HeadsUpController::show() {
             (*controller)->press(button);
         }
     };
-    NoteSetting setting{.card = cardInPanel};
+    NoteSetting setting{.card = cardInPanel, .anchor = NoteStage::roomiest};
     setting.sizePet = [card = view.get()](double scale) { card->sizePet(scale); };
     auto surface =
         hostNote(context_, std::move(view), presence, std::move(setting), {.identifier = "heads-up"});

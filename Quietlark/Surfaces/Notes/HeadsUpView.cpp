@@ -25,6 +25,7 @@ constexpr double lineGap = 2;
 constexpr double buttonsAbove = 8;                    ///< least space between the words and the buttons
 constexpr double buttonGap = 8;                       ///< between faces
 constexpr double buttonMargin = PressControl::margin; ///< around a button's face, for its shadow
+constexpr double largestButtonText = 1.15;            ///< beyond it the words above would have to shrink
 constexpr double morphRise = 8; ///< points that words come up as they take the place of others
 
 constexpr wumble::Motion::Curve morphing{
@@ -130,7 +131,9 @@ void HeadsUpView::rebuildButtons() {
 /// In one row at the bottom, with the largest text with which it fits.
 void HeadsUpView::placeButtons(const Appearance& appearance) {
     placedFor_ = appearance;
-    withFittingText(appearance, [this](const Appearance& tried) {
+    Appearance wanted = appearance;
+    wanted.textScale = std::min(wanted.textScale, largestButtonText);
+    withFittingText(wanted, [this](const Appearance& tried) {
         double wide = -buttonGap;
         for (StickerButton* button : buttons_) {
             setAppearance(*button, tried);

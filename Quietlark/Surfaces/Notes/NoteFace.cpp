@@ -6,7 +6,6 @@
 #include <QPainterPath>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace quietlark {
@@ -18,6 +17,20 @@ constexpr double dotSpacing = 12;
 constexpr double wordsGap = 4;
 constexpr double textStep = 0.05;
 constexpr double smallestText = 0.7;
+constexpr double smallestWhole = 0.9;  ///< rather than any smaller, words are cut off
+constexpr double smallestTitle = 0.75; ///< in parts of the size that the words below it would have it
+constexpr double rounding = 1e-6;
+
+const TextStyle titleStyle{.token = TypeToken::title};
+
+/// Whether it is there to its end: one line more would change nothing.
+bool isWhole(const QString& text, const TextStyle& style, double width, const Appearance& appearance) {
+    TextStyle taller = style;
+    ++taller.mostLines;
+    constexpr double hair = 1;
+    return measureText(text, taller, width, appearance).height() <=
+           measureText(text, style, width, appearance).height() + hair;
+}
 
 } // namespace
 
@@ -58,38 +71,60 @@ void drawNoteCard(QPainter& painter, const QRectF& rect, Surface tile, double ti
 }
 
 NoteWords::NoteWords(const QString& title, const QString& subtitle, QSizeF room, const Appearance& appearance)
-    : title_(title), subtitle_(subtitle) {
-    const std::array<TextStyle, 3> titles{{
-        {.token = TypeToken::title, .mostLines = 1},
-        {.token = TypeToken::body, .mostLines = 2, .weight = QFont::Bold},
-        {.token = TypeToken::body, .mostLines = 1, .weight = QFont::Bold},
-    }};
-    subtitleStyle_ = {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 2};
-    appearance_ = withFittingText(appearance, [&](const Appearance& tried) {
-        appearance_ = tried;
-        return std::ranges::any_of(titles, [&](const TextStyle& style) { return fits(style, room); });
-    });
+    : title_(title), subtitle_(subtitle), room_(room), titleLook_(appearance),
+      subtitleLook_(appearance), subtitleStyle_{.token = TypeToken::callout,
+                                                .ink = Role::textMuted,
+                                                .mostLines = 2},
+      gap_(subtitle.isEmpty() ? 0 : wordsGap) {
+    if (!fitWhole(appearance.textScale)) {
+        cutOff(appearance.textScale);
+    }
 }
 
-bool NoteWords::fits(const TextStyle& title, QSizeF room) {
-    titleStyle_ = title;
-    TextStyle whole = title;
-    whole.mostLines = title.mostLines + 1;
-    titleHeight_ = measureText(title_, title, room.width(), appearance_).height();
-    const bool isWhole = measureText(title_, whole, room.width(), appearance_).height() <= titleHeight_ + 1;
-    gap_ = subtitle_.isEmpty() ? 0 : wordsGap;
-    subtitleHeight_ =
-        subtitle_.isEmpty() ? 0 : measureText(subtitle_, subtitleStyle_, room.width(), appearance_).height();
-    const bool isLast = title.mostLines == 1 && title.token == TypeToken::body;
-    return (isWhole || isLast) && height() <= room.height();
+/// A title rather becomes a little smaller than the words below it.
+bool NoteWords::fitWhole(double wanted) {
+    for (double size = wanted; size >= std::min(wanted, smallestWhole) - rounding; size -= textStep) {
+        for (double share = 1; share >= smallestTitle - rounding; share -= textStep) {
+            if (setWhole({.title = size * share, .subtitle = size})) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+bool NoteWords::setWhole(const Sizes& sizes) {
+    measure(sizes);
+    return isWhole(title_, titleStyle, room_.width(), titleLook_) &&
+           isWhole(subtitle_, subtitleStyle_, room_.width(), subtitleLook_) && height() <= room_.height();
+}
+
+/// As many lines as there is room for.
+void NoteWords::cutOff(double wanted) {
+    const double size = std::min(wanted, 1.0);
+    constexpr int manyLines = 4;
+    subtitleStyle_.mostLines = manyLines;
+    do {
+        measure({.title = size * smallestTitle, .subtitle = size});
+    } while (height() > room_.height() && --subtitleStyle_.mostLines > 0);
+}
+
+void NoteWords::measure(const Sizes& sizes) {
+    titleLook_.textScale = sizes.title;
+    subtitleLook_.textScale = sizes.subtitle;
+    const auto heightOf = [&](const QString& text, const TextStyle& style, const Appearance& look) {
+        return text.isEmpty() ? 0 : measureText(text, style, room_.width(), look).height();
+    };
+    titleHeight_ = heightOf(title_, titleStyle, titleLook_);
+    subtitleHeight_ = heightOf(subtitle_, subtitleStyle_, subtitleLook_);
 }
 
 void NoteWords::draw(QPainter& painter, const QRectF& rect) const {
-    const double top = rect.top() + (rect.height() - height()) / 2;
-    drawText(painter, {rect.left(), top, rect.width(), titleHeight_}, title_, titleStyle_, appearance_);
+    const double top = rect.top() + std::max(rect.height() - height(), 0.0) / 2;
+    drawText(painter, {rect.left(), top, rect.width(), titleHeight_}, title_, titleStyle, titleLook_);
     if (!subtitle_.isEmpty()) {
         drawText(painter, {rect.left(), top + titleHeight_ + gap_, rect.width(), subtitleHeight_}, subtitle_,
-                 subtitleStyle_, appearance_);
+                 subtitleStyle_, subtitleLook_);
     }
 }
 

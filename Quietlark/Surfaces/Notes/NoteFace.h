@@ -38,24 +38,34 @@ private:
 void drawNoteCard(QPainter& painter, const QRectF& rect, Surface tile, double tileWidth,
                   const Appearance& appearance);
 
-/// A title and what it comes with, as large as it fits.
+/// A title and what it comes with, as large as they fit whole; cut off only when they don't even when small.
 class NoteWords {
 public:
-    /// Laid out for that width and at most that height.
+    /// Laid out for that width and at most that height. An empty subtitle is none.
     NoteWords(const QString& title, const QString& subtitle, QSizeF room, const Appearance& appearance);
 
     double height() const { return titleHeight_ + gap_ + subtitleHeight_; }
 
-    /// In the middle of the height of `rect`. `opacity` 0 to 1.
+    /// In the middle of the height of `rect`.
     void draw(QPainter& painter, const QRectF& rect) const;
 
 private:
-    bool fits(const TextStyle& title, QSizeF room);
+    /// Sizes of text, in parts of the normal one.
+    struct Sizes {
+        double title = 1;
+        double subtitle = 1;
+    };
+
+    bool fitWhole(double wanted);
+    bool setWhole(const Sizes& sizes);
+    void cutOff(double wanted);
+    void measure(const Sizes& sizes);
 
     QString title_;
     QString subtitle_;
-    Appearance appearance_;
-    TextStyle titleStyle_;
+    QSizeF room_;
+    Appearance titleLook_;
+    Appearance subtitleLook_;
     TextStyle subtitleStyle_;
     double titleHeight_ = 0;
     double subtitleHeight_ = 0;

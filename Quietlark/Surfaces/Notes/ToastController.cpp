@@ -1,10 +1,10 @@
 #include "Quietlark/Surfaces/Notes/ToastController.h"
 
 #include "Quietlark/Model/ModelWords.h"
+#include "Quietlark/Surfaces/FloatingPanel.h"
 #include "Quietlark/Surfaces/Notes/NoteStage.h"
 #include "Quietlark/Surfaces/Notes/ReminderSharing.h"
 #include "Quietlark/Surfaces/Notes/ToastView.h"
-#include "Quietlark/Surfaces/FloatingPanel.h"
 #include "WumbleCore/Foundation/Match.h"
 
 #include <algorithm>
@@ -94,7 +94,7 @@ Card ToastController::note(const wumble::Toast& toast, const std::optional<Scree
             (*controller)->tapped(toast);
         }
     };
-    NoteSetting setting{.card = {QPointF(margin, margin), view->noteSize()}};
+    NoteSetting setting{.card = {QPointF(margin, margin), view->noteSize()}, .anchor = NoteStage::roomiest};
     setting.sizePet = [content = view.get()](double scale) { content->sizePet(scale); };
     auto surface = hostNote(context_, std::move(view), presence, std::move(setting), {.identifier = "toast"});
     surface->setFrame(screen ? panelFrame(screen->visibleFrame) : QRectF(QPointF(), panelSize));

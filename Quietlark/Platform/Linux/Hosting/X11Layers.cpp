@@ -72,6 +72,7 @@ void X11Layers::askManager() {
     askNamedManager(wire_.root(), [this](xcb_window_t named) {
         askNamedManager(named, [this, named](xcb_window_t confirmed) {
             manager_ = confirmed == named ? named : xcb_window_t{XCB_NONE};
+            keepOnTop();
         });
     });
 }
