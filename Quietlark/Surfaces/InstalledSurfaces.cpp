@@ -4,14 +4,26 @@
 #include "Quietlark/Surfaces/Notes/HeadsUpController.h"
 #include "Quietlark/Surfaces/Notes/ToastController.h"
 #include "Quietlark/Surfaces/Nudges/NudgeCards.h"
+#include "Quietlark/Surfaces/Tray/StatusItemController.h"
+
+#include <optional>
 
 namespace quietlark {
 
 /// One member for each controller; what a new one offers to the model is named in `surfaces`.
 struct InstalledSurfaces::Controllers {
-    explicit Controllers(const SurfaceContext& shared) : context(shared) {}
+    Controllers(const SurfaceContext& shared, const SurfaceServices& services) : context(shared) {
+        if (services.tray != nullptr) {
+            statusItem.emplace(context, *services.tray, services.doors);
+        }
+    }
 
-    Surfaces surfaces() { return {.headsUp = &headsUp, .toasts = &toasts, .countdown = &countdown}; }
+    Surfaces surfaces() {
+        return {.statusItem = statusItem ? &*statusItem : nullptr,
+                .headsUp = &headsUp,
+                .toasts = &toasts,
+                .countdown = &countdown};
+    }
 
     SurfaceContext context;
     NudgeCards nudgeCards{context};
@@ -21,6 +33,7 @@ struct InstalledSurfaces::Controllers {
                            [this](const auto& toast, const auto& screen, Card* old, const auto& calls) {
                                return nudgeCards.make(toast, screen, old, calls);
                            }};
+    std::optional<StatusItemController> statusItem;
 };
 
 Appearance appearanceFor(const DesktopLook& look, wumble::Appearance choice) {
@@ -44,7 +57,8 @@ InstalledSurfaces::InstalledSurfaces(const SurfaceServices& services)
                                                                 .host = services.host,
                                                                 .windows = services.windows,
                                                                 .accessibility = services.accessibility,
-                                                                .appearance = appearance_});
+                                                                .appearance = appearance_},
+                                                 services);
     model_.install(controllers_->surfaces());
 }
 
@@ -52,6 +66,12 @@ InstalledSurfaces::~InstalledSurfaces() {
     model_.install({});
     if (desktopLook_) {
         desktopLook_->observe({});
+    }
+}
+
+void InstalledSurfaces::openPopover() {
+    if (auto& item = controllers_->statusItem; item && !item->isPopoverShown()) {
+        item->toggle(std::nullopt);
     }
 }
 

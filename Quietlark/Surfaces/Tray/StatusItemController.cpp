@@ -150,6 +150,7 @@ void StatusItemController::fit() {
     if (popover_) {
         const QSizeF wanted = popover_->view->sizeHint();
         popover_->surface->setFrame(PopoverPlace::frame(popover_->anchor, wanted));
+        popover_->surface->setOutline(popover_->view->outline());
     }
 }
 
