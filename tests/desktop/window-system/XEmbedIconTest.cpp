@@ -25,11 +25,14 @@ QImage picture(int size) {
 class XEmbedIconTest : public testing::Test {
 protected:
     void SetUp() override {
-        for (const char* program : {"Xvfb", "tint2", "xdotool"}) {
+        for (const char* program : {"Xvfb", "openbox", "tint2", "xdotool"}) {
             LAB_NEEDS(program);
         }
         wumble::test::write(folder / "tint2rc", panelSettings);
         server = std::make_unique<lab::XServer>();
+        manager = std::make_unique<lab::LabProcess>(
+            std::vector<std::string>{"openbox", "--startup", "echo started"}, server->environment());
+        manager->readLine();
         icon = std::make_unique<XEmbedIcon>(server->display());
         icon->setPictures({picture(16), picture(32)});
         icon->observeActivation(
@@ -50,6 +53,7 @@ protected:
 
     wumble::test::TemporaryFolder folder;
     std::unique_ptr<lab::XServer> server;
+    std::unique_ptr<lab::LabProcess> manager;
     std::unique_ptr<lab::LabProcess> panel;
     std::unique_ptr<XEmbedIcon> icon;
     std::vector<QPointF> clicks;
