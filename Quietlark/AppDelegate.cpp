@@ -42,11 +42,18 @@ int refuse(const std::filesystem::path& folder) {
     return 0;
 }
 
+/// A lock screen needs the keyboard that a break screen holds.
+std::unique_ptr<SurfaceHost> hostYieldingToLocks(Platform& platform) {
+    auto host = makeSurfaceHost();
+    platform.screenLock = std::make_unique<KeyboardYieldingLock>(std::move(platform.screenLock), *host);
+    return host;
+}
+
 } // namespace
 
 AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options)
     : platform_(makeLinuxPlatform(loop_)), accessibility_(*platform_.announcer, *platform_.look),
-      host_(makeSurfaceHost()), sounds_(*platform_.soundOutput),
+      host_(hostYieldingToLocks(platform_)), sounds_(*platform_.soundOutput),
       model_(folder, {.mainLoop = loop_,
                       .platform = platform_,
                       .sounds = &sounds_,
@@ -57,12 +64,12 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                  .loop = loop_,
                  .host = *host_,
                  .windows = *platform_.windows,
+                 .screenLock = platform_.screenLock.get(),
                  .accessibility = &accessibility_,
                  .desktopLook = platform_.look.get(),
                  .tray = platform_.tray.get(),
                  .doors = {.quit = [] { QCoreApplication::quit(); }}}),
       termination_([] { QCoreApplication::quit(); }) {
-    platform_.screenLock = std::make_unique<KeyboardYieldingLock>(std::move(platform_.screenLock), *host_);
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeActivation([this] { reopen(); });
     platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });

@@ -1,5 +1,6 @@
 #include "Quietlark/Surfaces/InstalledSurfaces.h"
 
+#include "Quietlark/Surfaces/BreakScreen/BreakOverlayController.h"
 #include "Quietlark/Surfaces/Notes/CountdownController.h"
 #include "Quietlark/Surfaces/Notes/HeadsUpController.h"
 #include "Quietlark/Surfaces/Notes/ToastController.h"
@@ -12,7 +13,8 @@ namespace quietlark {
 
 /// One member for each controller; what a new one offers to the model is named in `surfaces`.
 struct InstalledSurfaces::Controllers {
-    Controllers(const SurfaceContext& shared, const SurfaceServices& services) : context(shared) {
+    Controllers(const SurfaceContext& shared, const SurfaceServices& services)
+        : context(shared), overlay(context, services.screenLock) {
         if (services.tray != nullptr) {
             statusItem.emplace(context, *services.tray, services.doors);
         }
@@ -21,11 +23,13 @@ struct InstalledSurfaces::Controllers {
     Surfaces surfaces() {
         return {.statusItem = statusItem ? &*statusItem : nullptr,
                 .headsUp = &headsUp,
+                .overlay = &overlay,
                 .toasts = &toasts,
                 .countdown = &countdown};
     }
 
     SurfaceContext context;
+    BreakOverlayController overlay;
     NudgeCards nudgeCards{context};
     HeadsUpController headsUp{context};
     CountdownController countdown{context};

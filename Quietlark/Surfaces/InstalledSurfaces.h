@@ -17,6 +17,7 @@ struct SurfaceServices {
     MainLoop& loop;
     SurfaceHost& host;
     WindowSystem& windows;
+    ScreenLock* screenLock = nullptr;         ///< may be missing
     Accessibility* accessibility = nullptr;   ///< may be missing
     DesktopLookSource* desktopLook = nullptr; ///< may be missing
     TrayItem* tray = nullptr;                 ///< may be missing
