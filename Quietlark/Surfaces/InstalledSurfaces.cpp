@@ -5,16 +5,27 @@
 #include "Quietlark/Surfaces/Notes/HeadsUpController.h"
 #include "Quietlark/Surfaces/Notes/ToastController.h"
 #include "Quietlark/Surfaces/Nudges/NudgeCards.h"
+#include "Quietlark/Surfaces/Tray/StatusItemController.h"
+
+#include <optional>
 
 namespace quietlark {
 
 /// One member for each controller; what a new one offers to the model is named in `surfaces`.
 struct InstalledSurfaces::Controllers {
     Controllers(const SurfaceContext& shared, const SurfaceServices& services)
-        : context(shared), overlay(context, services.screenLock) {}
+        : context(shared), overlay(context, services.screenLock) {
+        if (services.tray != nullptr) {
+            statusItem.emplace(context, *services.tray, services.doors);
+        }
+    }
 
     Surfaces surfaces() {
-        return {.headsUp = &headsUp, .overlay = &overlay, .toasts = &toasts, .countdown = &countdown};
+        return {.statusItem = statusItem ? &*statusItem : nullptr,
+                .headsUp = &headsUp,
+                .overlay = &overlay,
+                .toasts = &toasts,
+                .countdown = &countdown};
     }
 
     SurfaceContext context;
@@ -26,6 +37,7 @@ struct InstalledSurfaces::Controllers {
                            [this](const auto& toast, const auto& screen, Card* old, const auto& calls) {
                                return nudgeCards.make(toast, screen, old, calls);
                            }};
+    std::optional<StatusItemController> statusItem;
 };
 
 Appearance appearanceFor(const DesktopLook& look, wumble::Appearance choice) {
@@ -58,6 +70,12 @@ InstalledSurfaces::~InstalledSurfaces() {
     model_.install({});
     if (desktopLook_) {
         desktopLook_->observe({});
+    }
+}
+
+void InstalledSurfaces::openPopover() {
+    if (auto& item = controllers_->statusItem; item && !item->isPopoverShown()) {
+        item->toggle(std::nullopt);
     }
 }
 
