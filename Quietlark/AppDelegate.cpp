@@ -53,16 +53,20 @@ std::unique_ptr<SurfaceHost> hostYieldingToLocks(Platform& platform) {
 
 AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options)
     : platform_(makeLinuxPlatform(loop_)), host_(hostYieldingToLocks(platform_)),
-      sounds_(*platform_.soundOutput), model_(folder, {.mainLoop = loop_,
-                                                       .platform = platform_,
-                                                       .sounds = &sounds_,
-                                                       .loginItem = platform_.loginItem.get(),
-                                                       .calendar = systemCalendar()}),
+      accessibility_(*platform_.announcer, *platform_.look), sounds_(*platform_.soundOutput),
+      model_(folder, {.mainLoop = loop_,
+                      .platform = platform_,
+                      .sounds = &sounds_,
+                      .loginItem = platform_.loginItem.get(),
+                      .accessibility = &accessibility_,
+                      .calendar = systemCalendar()}),
       surfaces_({.model = model_,
                  .loop = loop_,
                  .host = *host_,
                  .windows = *platform_.windows,
-                 .screenLock = platform_.screenLock.get()}),
+                 .screenLock = platform_.screenLock.get(),
+                 .accessibility = &accessibility_,
+                 .desktopLook = platform_.look.get()}),
       termination_([] { QCoreApplication::quit(); }) {
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });

@@ -3,6 +3,7 @@
 #include "Quietlark/CommandLine.h"
 #include "Quietlark/Model/AppModel.h"
 #include "Quietlark/Model/CuePlayer.h"
+#include "Quietlark/Model/DesktopAccessibility.h"
 #include "Quietlark/Platform/Platform.h"
 #include "Quietlark/Platform/SurfaceHost.h"
 #include "Quietlark/QtMainLoop.h"
@@ -32,6 +33,7 @@ private:
     QtMainLoop loop_;
     Platform platform_;
     std::unique_ptr<SurfaceHost> host_;
+    DesktopAccessibility accessibility_;
     CuePlayer sounds_;
     AppModel model_;
     InstalledSurfaces surfaces_;
