@@ -67,7 +67,8 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                  .screenLock = platform_.screenLock.get(),
                  .accessibility = &accessibility_,
                  .desktopLook = platform_.look.get()}),
-      termination_([] { QCoreApplication::quit(); }) {
+      termination_([] { QCoreApplication::quit(); }),
+      processEnd_([this] { model_.prepareForTermination(); }) {
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });
     beginWhenTheDesktopHasAnswered(options, loop_.uptime() + longestWaitForAnswers);

@@ -6,6 +6,7 @@
 #include "Quietlark/Model/DesktopAccessibility.h"
 #include "Quietlark/Platform/Platform.h"
 #include "Quietlark/Platform/SurfaceHost.h"
+#include "Quietlark/ProcessEnd.h"
 #include "Quietlark/QtMainLoop.h"
 #include "Quietlark/Surfaces/InstalledSurfaces.h"
 #include "Quietlark/TerminationSignals.h"
@@ -38,6 +39,7 @@ private:
     AppModel model_;
     InstalledSurfaces surfaces_;
     TerminationSignals termination_;
+    ProcessEnd processEnd_;
 };
 
 /// Takes the folder and runs until the process is asked to end, or tells the copy that has the folder. Gives the exit
