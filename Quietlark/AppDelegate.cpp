@@ -70,7 +70,8 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                  .desktopLook = platform_.look.get(),
                  .tray = platform_.tray.get(),
                  .doors = {.quit = [] { QCoreApplication::quit(); }}}),
-      termination_([] { QCoreApplication::quit(); }) {
+      termination_([] { QCoreApplication::quit(); }),
+      processEnd_([this] { model_.prepareForTermination(); }) {
     WumbleView::desktopPointer = [this] { return host_->pointer(); };
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeActivation([this] { reopen(); });

@@ -6,6 +6,7 @@
 #include "Quietlark/Model/DesktopAccessibility.h"
 #include "Quietlark/Platform/Platform.h"
 #include "Quietlark/Platform/SurfaceHost.h"
+#include "Quietlark/ProcessEnd.h"
 #include "Quietlark/QtMainLoop.h"
 #include "Quietlark/Surfaces/InstalledSurfaces.h"
 #include "Quietlark/TerminationSignals.h"
@@ -43,6 +44,7 @@ private:
     InstalledSurfaces surfaces_;
     std::unique_ptr<WelcomeWindow> welcome_; ///< made when it is first needed
     TerminationSignals termination_;
+    ProcessEnd processEnd_;
 };
 
 /// Takes the folder and runs until the process is asked to end, or tells the copy that has the folder. Gives the exit
