@@ -1,5 +1,7 @@
 #include "Quietlark/Renderers/Sheet.h"
 
+#include "Quietlark/Theme/TypeToken.h"
+
 namespace quietlark {
 
 namespace {
@@ -25,6 +27,7 @@ QImage sheet(const std::vector<Cell>& cells, const SheetLayout& layout) {
     QPainter painter(&image);
     painter.scale(layout.scale, layout.scale);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(font(TypeToken::caption));
     for (int place = 0; place < count; ++place) {
         const auto& cell = cells[static_cast<std::size_t>(place)];
         const QPointF corner(place % columns * layout.cell, place / columns * height);
