@@ -1,6 +1,7 @@
 #include "Quietlark/AppDelegate.h"
 
 #include "Quietlark/KeyboardYieldingLock.h"
+#include "Quietlark/Pet/WumbleView.h"
 #include "Quietlark/Platform/Linux/Hosting/SurfaceHosts.h"
 #include "Quietlark/Platform/Linux/LinuxPlatform.h"
 #include "Quietlark/SystemCalendar.h"
@@ -42,18 +43,29 @@ int refuse(const std::filesystem::path& folder) {
     return 0;
 }
 
+/// A lock screen needs the keyboard that a break screen holds.
+std::unique_ptr<SurfaceHost> hostYieldingToLocks(Platform& platform) {
+    auto host = makeSurfaceHost();
+    platform.screenLock = std::make_unique<KeyboardYieldingLock>(std::move(platform.screenLock), *host);
+    return host;
+}
+
 } // namespace
 
 AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options)
-    : platform_(makeLinuxPlatform(loop_)), host_(makeSurfaceHost()), sounds_(*platform_.soundOutput),
-      model_(folder, {.mainLoop = loop_,
-                      .platform = platform_,
-                      .sounds = &sounds_,
-                      .loginItem = platform_.loginItem.get(),
-                      .calendar = systemCalendar()}),
-      surfaces_({.model = model_, .loop = loop_, .host = *host_, .windows = *platform_.windows}),
+    : platform_(makeLinuxPlatform(loop_)), host_(hostYieldingToLocks(platform_)),
+      sounds_(*platform_.soundOutput), model_(folder, {.mainLoop = loop_,
+                                                       .platform = platform_,
+                                                       .sounds = &sounds_,
+                                                       .loginItem = platform_.loginItem.get(),
+                                                       .calendar = systemCalendar()}),
+      surfaces_({.model = model_,
+                 .loop = loop_,
+                 .host = *host_,
+                 .windows = *platform_.windows,
+                 .screenLock = platform_.screenLock.get()}),
       termination_([] { QCoreApplication::quit(); }) {
-    platform_.screenLock = std::make_unique<KeyboardYieldingLock>(std::move(platform_.screenLock), *host_);
+    WumbleView::desktopPointer = [this] { return host_->pointer(); };
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });
     beginWhenTheDesktopHasAnswered(options, loop_.uptime() + longestWaitForAnswers);
@@ -76,7 +88,10 @@ void AppDelegate::begin(const command::RunApplication& options) {
     }
 }
 
-AppDelegate::~AppDelegate() { model_.prepareForTermination(); }
+AppDelegate::~AppDelegate() {
+    WumbleView::desktopPointer = nullptr;
+    model_.prepareForTermination();
+}
 
 void AppDelegate::carryOut(const command::RunApplication& options) {
     if (options.demoBreak) {

@@ -1,5 +1,6 @@
 #include "Quietlark/Surfaces/InstalledSurfaces.h"
 
+#include "Quietlark/Surfaces/BreakScreen/BreakOverlayController.h"
 #include "Quietlark/Surfaces/Notes/CountdownController.h"
 #include "Quietlark/Surfaces/Notes/HeadsUpController.h"
 #include "Quietlark/Surfaces/Notes/ToastController.h"
@@ -9,11 +10,15 @@ namespace quietlark {
 
 /// One member for each controller; what a new one offers to the model is named in `surfaces`.
 struct InstalledSurfaces::Controllers {
-    explicit Controllers(const SurfaceContext& shared) : context(shared) {}
+    Controllers(const SurfaceContext& shared, const SurfaceServices& services)
+        : context(shared), overlay(context, services.screenLock) {}
 
-    Surfaces surfaces() { return {.headsUp = &headsUp, .toasts = &toasts, .countdown = &countdown}; }
+    Surfaces surfaces() {
+        return {.headsUp = &headsUp, .overlay = &overlay, .toasts = &toasts, .countdown = &countdown};
+    }
 
     SurfaceContext context;
+    BreakOverlayController overlay;
     NudgeCards nudgeCards{context};
     HeadsUpController headsUp{context};
     CountdownController countdown{context};
@@ -44,7 +49,8 @@ InstalledSurfaces::InstalledSurfaces(const SurfaceServices& services)
                                                                 .host = services.host,
                                                                 .windows = services.windows,
                                                                 .accessibility = services.accessibility,
-                                                                .appearance = appearance_});
+                                                                .appearance = appearance_},
+                                                 services);
     model_.install(controllers_->surfaces());
 }
 

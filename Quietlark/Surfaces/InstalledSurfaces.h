@@ -15,6 +15,7 @@ struct SurfaceServices {
     MainLoop& loop;
     SurfaceHost& host;
     WindowSystem& windows;
+    ScreenLock* screenLock = nullptr;         ///< may be missing
     Accessibility* accessibility = nullptr;   ///< may be missing
     DesktopLookSource* desktopLook = nullptr; ///< may be missing
 };
