@@ -6,6 +6,7 @@
 #include "Quietlark/Theme/Sticker.h"
 #include "WumbleCore/Motion/MotionTokens.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -146,7 +147,7 @@ double CountdownView::turned() const {
     return reducesMotion() ? calmTurning.value(elapsed - calmTurnDelay) : turning.value(elapsed);
 }
 
-void CountdownView::paintEvent(QPaintEvent*) {
+void CountdownView::paintEvent(QPaintEvent* event) {
     constexpr double rise = 6; ///< points that the lines come up
     const auto appearance = appearanceOf(*this);
     pet_.view().setAppearance(appearance);
@@ -160,6 +161,9 @@ void CountdownView::paintEvent(QPaintEvent*) {
     painter.setBrush(between(fill(before_), fill(words_), share));
     const QRectF pill = QRectF(0, 0, width_, height).adjusted(1, 1, -1, -1);
     painter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
+    if (isLeftOf(wordsLeft, *event)) {
+        return;
+    }
     const double moved = reducesMotion() ? 0 : rise * (1 - share);
     if (share < 0.5) {
         painter.setOpacity(1 - 2 * share);

@@ -6,6 +6,7 @@
 #include "Quietlark/Theme/Controls/StickerButton.h"
 #include "WumbleCore/Life/WumblePersonality.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -186,7 +187,7 @@ void HeadsUpView::morph() {
     update();
 }
 
-void HeadsUpView::paintEvent(QPaintEvent*) {
+void HeadsUpView::paintEvent(QPaintEvent* event) {
     const auto appearance = appearanceOf(*this);
     pet_.view().setAppearance(appearance);
     if (placedFor_ != appearance) {
@@ -195,6 +196,9 @@ void HeadsUpView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     drawNoteCard(painter, cardPlace, Surface::wumbleTile, tile, appearance);
+    if (isLeftOf(wordsLeft, *event)) {
+        return;
+    }
     const double progress = morphed();
     const double rise = appearance.reduceMotion ? 0 : morphRise;
     if (progress < 0.5) {

@@ -2,6 +2,7 @@
 
 #include "Quietlark/Theme/Sticker.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -67,6 +68,8 @@ void drawNoteCard(QPainter& painter, const QRectF& rect, Surface tile, double ti
     painter.fillRect(QRectF(left.topRight(), QSizeF(outline, left.height())), colour(Role::line, appearance));
     painter.restore();
 }
+
+bool isLeftOf(double words, const QPaintEvent& event) { return event.rect().right() < words; }
 
 NoteWords::NoteWords(const QString& title, const QString& subtitle, QSizeF room, const Appearance& appearance)
     : title_(title), subtitle_(subtitle), room_(room), titleLook_(appearance),
