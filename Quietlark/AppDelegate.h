@@ -3,11 +3,13 @@
 #include "Quietlark/CommandLine.h"
 #include "Quietlark/Model/AppModel.h"
 #include "Quietlark/Model/CuePlayer.h"
+#include "Quietlark/Model/DesktopAccessibility.h"
 #include "Quietlark/Platform/Platform.h"
 #include "Quietlark/Platform/SurfaceHost.h"
 #include "Quietlark/QtMainLoop.h"
 #include "Quietlark/Surfaces/InstalledSurfaces.h"
 #include "Quietlark/TerminationSignals.h"
+#include "Quietlark/Welcome/WelcomeWindow.h"
 
 #include <filesystem>
 #include <memory>
@@ -28,13 +30,18 @@ private:
     void beginWhenTheDesktopHasAnswered(const command::RunApplication& options, double deadline);
     void begin(const command::RunApplication& options);
     void carryOut(const command::RunApplication& options);
+    bool isWelcomed() const;
+    void reopen();
+    void showWelcome();
 
     QtMainLoop loop_;
     Platform platform_;
+    DesktopAccessibility accessibility_;
     std::unique_ptr<SurfaceHost> host_;
     CuePlayer sounds_;
     AppModel model_;
     InstalledSurfaces surfaces_;
+    std::unique_ptr<WelcomeWindow> welcome_; ///< made when it is first needed
     TerminationSignals termination_;
 };
 

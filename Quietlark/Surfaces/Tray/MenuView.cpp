@@ -184,6 +184,17 @@ QSize MenuView::sizeHint() const {
     return {width + around.left() + around.right(), height + around.top() + around.bottom()};
 }
 
+QRectF MenuView::card() const {
+    return QRectF(rect()).adjusted(edge, edge, -edge - Lift::floating, -edge - Lift::floating);
+}
+
+QRegion MenuView::outline() const {
+    QPainterPath face;
+    face.addRoundedRect(card(), Radius::large, Radius::large);
+    const QPainterPath both = face.united(face.translated(Lift::floating, Lift::floating));
+    return QRegion(both.toFillPolygon().toPolygon());
+}
+
 void MenuView::takeKeyboard() {
     page_->setFocus(Qt::TabFocusReason);
     focusNextPrevChild(true);
@@ -201,7 +212,7 @@ void MenuView::keyPressEvent(QKeyEvent* event) {
 void MenuView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF card = QRectF(rect()).adjusted(edge, edge, -edge - Lift::floating, -edge - Lift::floating);
+    const QRectF card = this->card();
     const Appearance look = appearanceOf(*this);
     drawSticker(painter, card, {.fill = Surface::paper, .radius = Radius::large, .lift = Lift::floating},
                 look);

@@ -3,6 +3,7 @@
 #include "Quietlark/Surfaces/SurfaceContext.h"
 #include "Quietlark/Surfaces/Tray/TrayActions.h"
 
+#include <QRegion>
 #include <QWidget>
 
 #include <functional>
@@ -40,6 +41,9 @@ public:
 
     QSize sizeHint() const override;
 
+    /// The card and its shadow.
+    QRegion outline() const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -50,6 +54,7 @@ private:
     void waitAgain();
     void settle();
     int pageWidth() const;
+    QRectF card() const;
 
     SurfaceContext context_;
     QScrollArea* scroll_;
