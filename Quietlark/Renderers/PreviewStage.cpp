@@ -50,7 +50,8 @@ PreviewStage::PreviewStage(const Appearance& look, const Choose& choose, int rev
 void PreviewStage::advance(double seconds) {
     loop.advance(seconds);
     FrameTicker::frameOfAll();
-    QCoreApplication::processEvents();
+    // Layouts, but no painting: that is done once, for a picture.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 } // namespace quietlark
