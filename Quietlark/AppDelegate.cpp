@@ -1,6 +1,7 @@
 #include "Quietlark/AppDelegate.h"
 
 #include "Quietlark/KeyboardYieldingLock.h"
+#include "Quietlark/Pet/WumbleView.h"
 #include "Quietlark/Platform/Linux/Hosting/SurfaceHosts.h"
 #include "Quietlark/Platform/Linux/LinuxPlatform.h"
 #include "Quietlark/SystemCalendar.h"
@@ -70,6 +71,7 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                  .tray = platform_.tray.get(),
                  .doors = {.quit = [] { QCoreApplication::quit(); }}}),
       termination_([] { QCoreApplication::quit(); }) {
+    WumbleView::desktopPointer = [this] { return host_->pointer(); };
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeActivation([this] { reopen(); });
     platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });
@@ -113,7 +115,10 @@ void AppDelegate::showWelcome() {
     welcome_->present();
 }
 
-AppDelegate::~AppDelegate() { model_.prepareForTermination(); }
+AppDelegate::~AppDelegate() {
+    WumbleView::desktopPointer = nullptr;
+    model_.prepareForTermination();
+}
 
 void AppDelegate::carryOut(const command::RunApplication& options) {
     if (options.demoBreak) {
