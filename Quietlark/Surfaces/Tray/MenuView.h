@@ -41,8 +41,8 @@ public:
 
     QSize sizeHint() const override;
 
-    /// The card and its shadow.
-    QRegion outline() const;
+    /// The card and its shadow at that size.
+    static QRegion outline(QSizeF size);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -54,7 +54,6 @@ private:
     void waitAgain();
     void settle();
     int pageWidth() const;
-    QRectF card() const;
 
     SurfaceContext context_;
     QScrollArea* scroll_;

@@ -149,8 +149,9 @@ void StatusItemController::open(const PopoverPlace::Anchor& anchor) {
 void StatusItemController::fit() {
     if (popover_) {
         const QSizeF wanted = popover_->view->sizeHint();
-        popover_->surface->setFrame(PopoverPlace::frame(popover_->anchor, wanted));
-        popover_->surface->setOutline(popover_->view->outline());
+        const QRectF frame = PopoverPlace::frame(popover_->anchor, wanted);
+        popover_->surface->setFrame(frame);
+        popover_->surface->setOutline(MenuView::outline(frame.size()));
     }
 }
 

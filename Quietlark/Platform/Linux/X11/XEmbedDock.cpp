@@ -8,7 +8,6 @@ namespace quietlark {
 
 namespace {
 
-constexpr std::uint16_t firstSize = 24;
 constexpr std::uint32_t dockRequest = 0;
 constexpr std::uint32_t mappedFlag = 1;
 constexpr std::string_view name = "Quietlark";
@@ -73,8 +72,8 @@ void makeWindow(XEmbedDock& dock) {
     const std::uint32_t events = XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_STRUCTURE_NOTIFY |
                                  XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE;
     const std::array<std::uint32_t, 4> values{0, 0, events, colours};
-    xcb_create_window(connection, dock.depth, dock.window, dock.screen->root, 0, 0, firstSize, firstSize, 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, visual,
+    xcb_create_window(connection, dock.depth, dock.window, dock.screen->root, 0, 0, XEmbedDock::firstSide,
+                      XEmbedDock::firstSide, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, visual,
                       XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP,
                       values.data());
     dock.pen = xcb_generate_id(connection);

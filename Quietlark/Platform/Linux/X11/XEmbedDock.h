@@ -12,6 +12,8 @@ namespace quietlark {
 /// A place in the tray of a panel that takes windows in, or the wait for such a panel. Made on a thread of its own,
 /// since that waits for the server; used on the main thread from then on.
 struct XEmbedDock {
+    static constexpr std::uint16_t firstSide = 24; ///< of the square that is asked for, in pixels
+
     std::unique_ptr<xcb_connection_t, X11Disconnect> connection;
     xcb_screen_t* screen = nullptr;
     xcb_atom_t manager = XCB_NONE;   ///< the message of a panel that comes

@@ -65,6 +65,7 @@ void XEmbedIcon::look() {
 void XEmbedIcon::take(std::unique_ptr<XEmbedDock> dock) {
     attempt_.reset();
     dock_ = std::move(dock);
+    size_ = {XEmbedDock::firstSide, XEmbedDock::firstSide};
     if (!dock_) {
         return;
     }
