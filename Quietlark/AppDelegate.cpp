@@ -61,17 +61,19 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                       .loginItem = platform_.loginItem.get(),
                       .accessibility = &accessibility_,
                       .calendar = systemCalendar()}),
-      surfaces_({.model = model_,
-                 .loop = loop_,
-                 .host = *host_,
-                 .windows = *platform_.windows,
-                 .screenLock = platform_.screenLock.get(),
-                 .accessibility = &accessibility_,
-                 .desktopLook = platform_.look.get(),
-                 .tray = platform_.tray.get(),
-                 .doors = {.quit = [] { QCoreApplication::quit(); }}}),
+      surfaces_(
+          {.model = model_,
+           .loop = loop_,
+           .host = *host_,
+           .windows = *platform_.windows,
+           .screenLock = platform_.screenLock.get(),
+           .accessibility = &accessibility_,
+           .desktopLook = platform_.look.get(),
+           .tray = platform_.tray.get(),
+           .doors = {.openSettings = [this] { showSettings(); }, .quit = [] { QCoreApplication::quit(); }}}),
       termination_([] { QCoreApplication::quit(); }),
       processEnd_([this] { model_.prepareForTermination(); }) {
+    model_.openCollage = [this](auto, auto) { showSettings(); };
     WumbleView::desktopPointer = [this] { return host_->pointer(); };
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeActivation([this] { reopen(); });
@@ -102,11 +104,21 @@ bool AppDelegate::isWelcomed() const { return model_.state().life.value().welcom
 
 /// The person started the program again, or pressed its icon.
 void AppDelegate::reopen() {
-    if (isWelcomed()) {
-        surfaces_.openPopover();
-    } else {
+    if (!isWelcomed()) {
         showWelcome();
+    } else if (platform_.tray->isShown()) {
+        showSettings();
+    } else {
+        surfaces_.openPopover();
     }
+}
+
+void AppDelegate::showSettings() {
+    if (!settings_) {
+        settings_ =
+            std::make_unique<SettingsWindow>(model_, platform_.loginItem.get(), surfaces_.appearance());
+    }
+    settings_->present();
 }
 
 void AppDelegate::showWelcome() {
@@ -124,6 +136,9 @@ AppDelegate::~AppDelegate() {
 void AppDelegate::carryOut(const command::RunApplication& options) {
     if (options.demoBreak) {
         model_.startPreview(demoBreakSeconds);
+    }
+    if (options.openSettings) {
+        showSettings();
     }
     if (options.enableLaunchAtLogin) {
         model_.setOpenAtLogin(true);

@@ -8,6 +8,7 @@
 #include "Quietlark/Platform/SurfaceHost.h"
 #include "Quietlark/ProcessEnd.h"
 #include "Quietlark/QtMainLoop.h"
+#include "Quietlark/Settings/SettingsWindow.h"
 #include "Quietlark/Surfaces/InstalledSurfaces.h"
 #include "Quietlark/TerminationSignals.h"
 #include "Quietlark/Welcome/WelcomeWindow.h"
@@ -34,6 +35,7 @@ private:
     bool isWelcomed() const;
     void reopen();
     void showWelcome();
+    void showSettings();
 
     QtMainLoop loop_;
     Platform platform_;
@@ -42,7 +44,8 @@ private:
     CuePlayer sounds_;
     AppModel model_;
     InstalledSurfaces surfaces_;
-    std::unique_ptr<WelcomeWindow> welcome_; ///< made when it is first needed
+    std::unique_ptr<WelcomeWindow> welcome_;   ///< made when it is first needed
+    std::unique_ptr<SettingsWindow> settings_; ///< made when it is first needed
     TerminationSignals termination_;
     ProcessEnd processEnd_;
 };

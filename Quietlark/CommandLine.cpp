@@ -22,7 +22,7 @@ constexpr int unknownOption = 64;
 constexpr std::array<std::string_view, 3> appearances{"light", "dark", "system"};
 
 /// What the program itself reads. An option named here is built; the others are refused.
-constexpr std::array<std::string_view, 3> runningOptions{"--appearance", "--demo-break",
+constexpr std::array<std::string_view, 4> runningOptions{"--appearance", "--demo-break", "--open-settings",
                                                          "--enable-launch-at-login"};
 
 bool has(const Arguments& arguments, std::string_view option) {
@@ -130,6 +130,7 @@ Command commandFor(const Arguments& arguments) {
                                unknownOption};
     }
     return command::RunApplication{.demoBreak = has(arguments, "--demo-break"),
+                                   .openSettings = has(arguments, "--open-settings"),
                                    .enableLaunchAtLogin = has(arguments, "--enable-launch-at-login")};
 }
 

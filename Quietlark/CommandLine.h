@@ -12,6 +12,7 @@ namespace command {
 /// The program itself.
 struct RunApplication {
     bool demoBreak = false;           ///< show a short preview at once
+    bool openSettings = false;        ///< with the window of the settings
     bool enableLaunchAtLogin = false; ///< and tell in the program whether that worked
     bool operator==(const RunApplication&) const = default;
 };

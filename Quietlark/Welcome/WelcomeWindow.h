@@ -2,6 +2,7 @@
 
 #include "Quietlark/Theme/Appearance.h"
 #include "Quietlark/Welcome/WelcomeView.h"
+#include "Quietlark/Windows/PaperWindow.h"
 
 #include <QProperty>
 
@@ -14,25 +15,19 @@ class WelcomeWindow {
 public:
     /// All must outlive it; the login item may be missing.
     WelcomeWindow(AppModel& model, LoginItem* loginItem, const QProperty<Appearance>& appearance);
-    ~WelcomeWindow();
-    WelcomeWindow(const WelcomeWindow&) = delete;
-    WelcomeWindow& operator=(const WelcomeWindow&) = delete;
 
     /// Opens it, or brings it to the front where it is open.
-    void present();
-    bool isOpen() const;
+    void present() { window_.present(); }
+    bool isOpen() const { return window_.isOpen(); }
 
-    QWidget& window() { return *window_; }
+    QWidget& window() { return window_.window(); }
 
 private:
     void finish(AppModel::AfterWelcome after);
-    void fit();
 
     AppModel& model_;
-    const QProperty<Appearance>& appearance_;
-    std::unique_ptr<QWidget> window_;
     WelcomeView* view_; ///< the window owns it
-    QPropertyNotifier appearanceWatch_;
+    PaperWindow window_;
 };
 
 } // namespace quietlark

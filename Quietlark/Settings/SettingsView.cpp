@@ -1,0 +1,248 @@
+#include "Quietlark/Settings/SettingsView.h"
+
+#include "Quietlark/Surfaces/TextBlock.h"
+#include "Quietlark/Theme/AppearanceScope.h"
+#include "Quietlark/Theme/Controls/Segments.h"
+#include "Quietlark/Theme/Controls/StickerSlider.h"
+#include "Quietlark/Theme/Controls/StickerSwitch.h"
+#include "Quietlark/Theme/Sticker.h"
+#include "Quietlark/Windows/PaperCard.h"
+#include "WumbleCore/Words/Format.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace quietlark {
+
+namespace {
+
+constexpr int usualWidth = 620;
+constexpr int edge = 24;
+constexpr int groupGap = 16;
+constexpr int sliderSteps = 100;
+
+constexpr std::array nudgeChoices{0, 1, 2};
+constexpr std::array appearances{wumble::Appearance::system, wumble::Appearance::light,
+                                 wumble::Appearance::dark};
+
+QString text(std::string_view words) {
+    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
+}
+
+QStringList durations(const std::vector<double>& choices) {
+    QStringList words;
+    for (const double seconds : choices) {
+        words.append(QString::fromStdString(wumble::Format::duration(seconds)));
+    }
+    return words;
+}
+
+template <class Choices, class Value> int placeOf(const Choices& choices, const Value& value) {
+    return static_cast<int>(std::ranges::find(choices, value) - std::ranges::begin(choices));
+}
+
+} // namespace
+
+SettingsView::SettingsView(AppModel& model, LoginItem* loginItem, QWidget* parent)
+    : QWidget(parent), model_(model), loginItem_(loginItem) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(edge, edge, edge, edge);
+    column->setSpacing(groupGap);
+    column->addWidget(breaks());
+    column->addWidget(general());
+    column->addStretch(1);
+    followed_.push_back(observe(model_.state().settings, [this] { refresh(); }));
+    followed_.push_back(observe(model_.state().loginItemError, [this] { refresh(); }));
+    refresh();
+}
+
+QWidget* SettingsView::breaks() {
+    using wumble::WumbleSettings;
+    auto* card = new PaperCard;
+    QVBoxLayout* column = card->column();
+    column->addWidget(new TextBlock(text(SettingsWords::breaks), {.token = TypeToken::title}));
+    column->addWidget(
+        numberRow(SettingsWords::quickEvery, {1200, 1800, 2700}, &WumbleSettings::workInterval));
+    column->addWidget(
+        numberRow(SettingsWords::quickLength, {20, 30, 45, 60}, &WumbleSettings::shortBreakDuration));
+    column->addWidget(longEveryRow());
+    column->addWidget(
+        numberRow(SettingsWords::longLength, {180, 300, 600}, &WumbleSettings::longBreakDuration));
+    column->addWidget(nudgesRow());
+    return card;
+}
+
+QWidget* SettingsView::general() {
+    auto* card = new PaperCard;
+    QVBoxLayout* column = card->column();
+    column->addWidget(new TextBlock(text(SettingsWords::general), {.token = TypeToken::title}));
+    if (loginItem_ != nullptr) {
+        column->addWidget(loginRow());
+    }
+    column->addWidget(appearanceRow());
+    column->addWidget(soundsRow());
+    column->addWidget(volumeRow());
+    return card;
+}
+
+QWidget* SettingsView::row(const SettingsWords::Row& words, QWidget* control) {
+    auto* whole = new QWidget;
+    auto* layout = new QHBoxLayout(whole);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    auto* said = new QVBoxLayout;
+    said->setSpacing(1);
+    said->addWidget(new TextBlock(text(words.title), {.mostLines = 2, .weight = QFont::DemiBold}));
+    if (!words.detail.empty()) {
+        said->addWidget(new TextBlock(text(words.detail),
+                                      {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 3}));
+    }
+    layout->addLayout(said, 1);
+    control->setAccessibleName(text(words.title));
+    layout->addWidget(control);
+    return whole;
+}
+
+QWidget* SettingsView::numberRow(const SettingsWords::Row& words, std::vector<double> choices,
+                                 double wumble::WumbleSettings::*field) {
+    const double current = settings().*field;
+    if (std::ranges::find(choices, current) == choices.end()) {
+        choices.insert(std::ranges::upper_bound(choices, current), current);
+    }
+    auto* made = new Segments;
+    made->setChoices(durations(choices));
+    made->chosen = [this, choices, field](int place) {
+        model_.update([&](wumble::WumbleSettings& changed) {
+            changed.*field = choices[static_cast<std::size_t>(place)];
+        });
+    };
+    follow([this, made, choices, field] { made->setCurrent(placeOf(choices, settings().*field)); });
+    return row(words, made);
+}
+
+/// Told as a time, and kept as so many stretches between quick breaks.
+QWidget* SettingsView::longEveryRow() {
+    constexpr auto& counts = wumble::WumbleSettings::longBreakEveryChoices;
+    auto* made = new Segments;
+    const auto lengths = [this] {
+        std::vector<double> all;
+        for (const wumble::Counter count : counts) {
+            all.push_back(settings().workInterval * static_cast<double>(count));
+        }
+        return all;
+    };
+    made->setChoices(durations(lengths()));
+    made->chosen = [this, lengths](int place) {
+        const double chosen = lengths()[static_cast<std::size_t>(place)];
+        model_.update([&](wumble::WumbleSettings& changed) { changed.moveInterval = chosen; });
+    };
+    follow([this, made, lengths, shown = std::vector<double>()]() mutable {
+        if (shown != lengths()) {
+            shown = lengths();
+            made->setChoices(durations(shown));
+        }
+        made->setCurrent(placeOf(shown, settings().moveInterval));
+    });
+    return row(SettingsWords::longEvery, made);
+}
+
+QWidget* SettingsView::nudgesRow() {
+    auto* made = new Segments;
+    made->setChoices({QStringLiteral("None"), QStringLiteral("1"), QStringLiteral("2")});
+    made->chosen = [this](int place) {
+        model_.update([&](wumble::WumbleSettings& changed) {
+            changed.nudgesBetween = nudgeChoices.at(static_cast<std::size_t>(place));
+        });
+    };
+    follow([this, made] { made->setCurrent(placeOf(nudgeChoices, settings().nudgesBetween)); });
+    return row(SettingsWords::nudges, made);
+}
+
+QWidget* SettingsView::appearanceRow() {
+    auto* made = new Segments;
+    made->setChoices({QStringLiteral("System"), QStringLiteral("Light"), QStringLiteral("Dark")});
+    made->chosen = [this](int place) {
+        model_.update([&](wumble::WumbleSettings& changed) {
+            changed.appearance = appearances.at(static_cast<std::size_t>(place));
+        });
+    };
+    follow([this, made] { made->setCurrent(placeOf(appearances, settings().appearance)); });
+    return row(SettingsWords::appearance, made);
+}
+
+QWidget* SettingsView::soundsRow() {
+    auto* made = new StickerSwitch(text(SettingsWords::sounds.title));
+    QObject::connect(made, &QAbstractButton::clicked, this, [this](bool on) {
+        model_.update([&](wumble::WumbleSettings& changed) { changed.breakSoundsEnabled = on; });
+    });
+    follow([this, made] { made->setChecked(settings().breakSoundsEnabled); });
+    return row(SettingsWords::sounds, made);
+}
+
+QWidget* SettingsView::volumeRow() {
+    auto* made = new StickerSlider(text(SettingsWords::volume.title));
+    made->setRange(0, sliderSteps);
+    made->setMinimumWidth(180);
+    QObject::connect(made, &QAbstractSlider::valueChanged, this, [this](int value) {
+        model_.update([&](wumble::WumbleSettings& changed) {
+            changed.volume = static_cast<double>(value) / sliderSteps;
+        });
+    });
+    follow([this, made] {
+        const QSignalBlocker quiet(made);
+        made->setValue(static_cast<int>(std::lround(settings().volume * sliderSteps)));
+        made->update();
+    });
+    return row(SettingsWords::volume, made);
+}
+
+QWidget* SettingsView::loginRow() {
+    auto* made = new StickerSwitch(text(SettingsWords::login.title));
+    QObject::connect(made, &QAbstractButton::clicked, this, [this](bool on) {
+        model_.setOpenAtLogin(on);
+        refresh();
+    });
+    follow([this, made] { made->setChecked(loginItem_->isEnabled()); });
+    auto* both = new QWidget;
+    auto* column = new QVBoxLayout(both);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(row(SettingsWords::login, made));
+    loginError_ = new TextBlock({}, {.token = TypeToken::callout, .mostLines = 4, .weight = QFont::DemiBold});
+    column->addWidget(loginError_);
+    return both;
+}
+
+void SettingsView::follow(std::function<void()> refresh) { controls_.push_back(std::move(refresh)); }
+
+void SettingsView::refresh() {
+    for (const auto& bringUpToDate : controls_) {
+        bringUpToDate();
+    }
+    if (loginError_ != nullptr) {
+        const auto& error = model_.state().loginItemError.value();
+        loginError_->setText(QString::fromStdString(error.value_or("")));
+        loginError_->setVisible(error.has_value());
+    }
+    wantsOtherSize();
+}
+
+QSize SettingsView::sizeHint() const {
+    const double share = 1 + (appearanceOf(*this).textScale - 1) * 0.7;
+    const int width =
+        std::max(static_cast<int>(std::lround(usualWidth * share)), layout()->minimumSize().width());
+    return {width, layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
+                                                 : layout()->sizeHint().height()};
+}
+
+void SettingsView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawStickerBackground(painter, rect(), appearanceOf(*this));
+}
+
+} // namespace quietlark

@@ -1,0 +1,53 @@
+#include "Quietlark/Windows/PaperWindow.h"
+
+#include "Quietlark/Theme/AppearanceScope.h"
+
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace quietlark {
+
+namespace {
+
+/// Of the screen that the window leaves free at least, for its frame and panels.
+constexpr QSize leftFree{40, 80};
+
+} // namespace
+
+PaperWindow::PaperWindow(std::string_view title, std::unique_ptr<QWidget> view,
+                         const QProperty<Appearance>& appearance)
+    : window_(std::make_unique<QWidget>()), view_(view.get()),
+      appearanceWatch_(appearance, [this, &appearance] {
+          setAppearance(*window_, appearance.value());
+          appearanceChanged();
+      }) {
+    window_->setObjectName(QStringLiteral("quietlark.window"));
+    window_->setWindowTitle(QString::fromUtf8(title.data(), static_cast<qsizetype>(title.size())));
+    auto* scroll = new QScrollArea;
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(view.release());
+    auto* whole = new QVBoxLayout(window_.get());
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(scroll);
+    setAppearance(*window_, appearance.value());
+}
+
+void PaperWindow::present() {
+    fit();
+    window_->show();
+    window_->raise();
+    window_->activateWindow();
+}
+
+void PaperWindow::fit() {
+    view_->layout()->activate();
+    const QSize room = window_->screen()->availableSize() - leftFree;
+    const QSize wanted = view_->sizeHint().boundedTo(room);
+    window_->setMinimumWidth(wanted.width());
+    window_->resize(wanted);
+}
+
+} // namespace quietlark
