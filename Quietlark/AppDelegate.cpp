@@ -1,6 +1,7 @@
 #include "Quietlark/AppDelegate.h"
 
 #include "Quietlark/KeyboardYieldingLock.h"
+#include "Quietlark/Pet/WumbleView.h"
 #include "Quietlark/Platform/Linux/Hosting/SurfaceHosts.h"
 #include "Quietlark/Platform/Linux/LinuxPlatform.h"
 #include "Quietlark/SystemCalendar.h"
@@ -69,6 +70,7 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                  .desktopLook = platform_.look.get()}),
       termination_([] { QCoreApplication::quit(); }),
       processEnd_([this] { model_.prepareForTermination(); }) {
+    WumbleView::desktopPointer = [this] { return host_->pointer(); };
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });
     beginWhenTheDesktopHasAnswered(options, loop_.uptime() + longestWaitForAnswers);
@@ -91,7 +93,10 @@ void AppDelegate::begin(const command::RunApplication& options) {
     }
 }
 
-AppDelegate::~AppDelegate() { model_.prepareForTermination(); }
+AppDelegate::~AppDelegate() {
+    WumbleView::desktopPointer = nullptr;
+    model_.prepareForTermination();
+}
 
 void AppDelegate::carryOut(const command::RunApplication& options) {
     if (options.demoBreak) {

@@ -271,6 +271,12 @@ constexpr std::array<MoodRow, 17> moods{{
 }};
 static_assert(wumble::isInOrder(moods));
 
+/// Eyes blink with reduced motion too: a pet that never does looks like a picture of one.
+double lidsOf(const MoodRow& row, const wumble::WumbleDay& day, double t, double elapsed) {
+    const double since = row.value == WumbleMood::blinking ? elapsed : row.stillAt;
+    return row.pose({day, t, since, true, WumbleJelly::stiff}).lids;
+}
+
 constexpr double stillClock = 2.05; ///< a moment between two blinks, half way through a breath
 
 /// What a gesture does to the face while it plays.
@@ -305,7 +311,7 @@ WumblePose pose(WumbleMood mood, const wumble::WumbleDay& day, double t, double 
     }
     WumblePose still = row.pose({day, stillClock, row.stillAt, true, WumbleJelly::stiff});
     still.pull = mood == WumbleMood::pulled ? pullAmount(0, true) : 0;
-    still.lids = 0;
+    still.lids = lidsOf(row, day, t, elapsed);
     return still;
 }
 
@@ -344,21 +350,35 @@ double letGo(double t) {
     return 1 - wumble::Motion::pop.value(t);
 }
 
+namespace {
+
+/// Where blinks begin within a round that is too long and too uneven to be noticed. One is a double blink.
+constexpr std::array blinkStarts{1.3, 5.9, 9.2, 9.55, 14.8, 18.1, 24.3, 28.9, 32.0, 37.4};
+constexpr double blinkRound = 41.7;
+constexpr double lidsClose = 0.09;
+constexpr double lidsOpen = 0.17;
+
+} // namespace
+
 double blink(double t) {
-    /// Where blinks begin within a round that is too long and too uneven to be noticed. One is a double
-    /// blink.
-    constexpr std::array starts{1.3, 5.9, 9.2, 9.55, 14.8, 18.1, 24.3, 28.9, 32.0, 37.4};
-    constexpr double round = 41.7;
-    constexpr double close = 0.09;
-    constexpr double open = 0.17;
-    const double now = remainder(t, round);
-    for (const double start : starts) {
+    const double now = remainder(t, blinkRound);
+    for (const double start : blinkStarts) {
         const double since = now - start;
-        if (since >= 0 && since < close + open) {
-            return since < close ? smooth(since / close) : 1 - smooth((since - close) / open);
+        if (since >= 0 && since < lidsClose + lidsOpen) {
+            return since < lidsClose ? smooth(since / lidsClose) : 1 - smooth((since - lidsClose) / lidsOpen);
         }
     }
     return 0;
+}
+
+double untilBlink(double t) {
+    const double now = remainder(t, blinkRound);
+    for (const double start : blinkStarts) {
+        if (now < start + lidsClose + lidsOpen) {
+            return std::max(0.0, start - now);
+        }
+    }
+    return blinkRound - now + blinkStarts.front();
 }
 
 wumble::Point glance(double t) {

@@ -32,6 +32,9 @@ double letGo(double t);
 /// same.
 double blink(double t);
 
+/// Seconds from then to the beginning of the next blink; 0 in the midst of one.
+double untilBlink(double t);
+
 /// Where the pet looks by itself, -1 to 1; mostly ahead.
 wumble::Point glance(double t);
 

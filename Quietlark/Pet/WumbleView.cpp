@@ -2,9 +2,11 @@
 
 #include "Quietlark/Pet/Ease.h"
 #include "Quietlark/Pet/WumbleAnimator.h"
+#include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Role.h"
+#include "Quietlark/Theme/Sizes.h"
+#include "Quietlark/Theme/Sticker.h"
 
-#include <QCursor>
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -24,9 +26,16 @@ constexpr double pullLength = 0.6; ///< of its width, how far a full pull drags 
 constexpr double firstTouch = 4;   ///< points that a hand may tremble in a click
 constexpr double settled = 1.6;    ///< seconds after which a pull that was let go has died down
 
+int untilNextBlink(double t) { return static_cast<int>(std::ceil(1000 * WumbleAnimator::untilBlink(t))); }
+
+const WumbleJelly& jellyFor(bool reduceMotion) {
+    return reduceMotion ? WumbleJelly::stiff : WumbleJelly::wumble;
+}
+
 } // namespace
 
 std::function<void(WumbleGesture)> WumbleView::onPoke;
+std::function<std::optional<QPointF>()> WumbleView::desktopPointer;
 
 WumbleClock realClock() {
     static const QElapsedTimer timer = [] {
@@ -66,12 +75,7 @@ void WumbleView::setMood(wumble::WumbleMood mood) {
 
 void WumbleView::setCalm(bool calm) { doing_.calm = calm; }
 
-void WumbleView::setAppearance(Appearance appearance) {
-    if (appearance_ != appearance) {
-        appearance_ = appearance;
-        nextFrame();
-    }
-}
+void WumbleView::setAppearance(const Appearance& appearance) { quietlark::setAppearance(*this, appearance); }
 
 void WumbleView::setTweaks(const SoftWumble::Tweaks& tweaks) {
     if (tweaks_ != tweaks) {
@@ -157,10 +161,11 @@ Look WumbleView::pointerLook() const {
     if (gaze_) {
         return {gaze_->x, 0.8 * gaze_->y, 0.5 * gaze_->x};
     }
-    if (!doing_.gazes || !isVisible()) {
+    const auto pointerAt = doing_.gazes && isVisible() && desktopPointer ? desktopPointer() : std::nullopt;
+    if (!pointerAt) {
         return {};
     }
-    const QPointF away = QPointF(mapFromGlobal(QCursor::pos())) - QRectF(rect()).center();
+    const QPointF away = mapFromGlobal(*pointerAt) - QRectF(rect()).center();
     const double scale = std::max(static_cast<double>(width()), 60.0) * 2.5;
     return {std::tanh(away.x() / scale), 0.8 * std::tanh(away.y() / scale),
             0.6 * std::tanh(away.x() / (2 * scale))};
@@ -174,13 +179,13 @@ double WumbleView::pulledBy(double now) const {
                                                          : 0;
 }
 
-WumblePose WumbleView::firmPose(double now, const Look& pointer, const WumbleJelly& jelly) const {
-    const bool still = appearance_.reduceMotion;
-    WumblePose pose = WumbleAnimator::pose(doing_.mood, doing_.day, now - clock_.start,
-                                           now - doing_.moodStart, still, doing_.calm, jelly);
+WumblePose WumbleView::firmPose(double now, const Look& pointer, bool reduceMotion) const {
+    WumblePose pose =
+        WumbleAnimator::pose(doing_.mood, doing_.day, now - clock_.start, now - doing_.moodStart,
+                             reduceMotion, doing_.calm, jellyFor(reduceMotion));
     if (doing_.reaction) {
-        pose =
-            WumbleAnimator::reacting(pose, doing_.day, doing_.reactionGesture, now - *doing_.reaction, still);
+        pose = WumbleAnimator::reacting(pose, doing_.day, doing_.reactionGesture, now - *doing_.reaction,
+                                        reduceMotion);
     }
     pose.look = std::clamp(pose.look + pointer.x, -1.0, 1.0);
     pose.lookY = std::clamp(pose.lookY + pointer.y, -1.0, 1.0);
@@ -192,18 +197,19 @@ WumblePose WumbleView::firmPose(double now, const Look& pointer, const WumbleJel
 }
 
 WumblePose WumbleView::pose(double now) {
-    const WumbleJelly& jelly = appearance_.reduceMotion ? WumbleJelly::stiff : WumbleJelly::wumble;
-    const Look look = appearance_.reduceMotion ? Look{} : pointerLook();
+    const bool reduceMotion = appearanceOf(*this).reduceMotion;
+    const WumbleJelly& jelly = jellyFor(reduceMotion);
+    const Look look = reduceMotion ? Look{} : pointerLook();
     memory_.note(look, now);
     memory_.keep(doing_);
-    WumblePose firm = firmPose(now, look, jelly);
+    WumblePose firm = firmPose(now, look, reduceMotion);
     const auto key = static_cast<long long>(std::floor(now / WumbleJelly::step));
     std::vector<wumble::Point> history;
     for (int back = 0; back < jelly.samples(); ++back) {
         const auto [place, isNew] = memory_.tops.try_emplace(key - back);
         if (isNew) {
             const double then = static_cast<double>(key - back) * WumbleJelly::step;
-            const WumblePose past = firmPose(then, memory_.pointer(then), jelly);
+            const WumblePose past = firmPose(then, memory_.pointer(then), reduceMotion);
             place->second = SoftWumble::top(past, doing_.day, tweaks_);
             place->second.x += past.lean * jelly.lean;
         }
@@ -217,8 +223,13 @@ WumblePose WumbleView::pose(double now) {
 }
 
 bool WumbleView::isMoving(double now) const {
-    const bool changesFace = doing_.reaction && now < *doing_.reaction + duration(doing_.reactionGesture);
-    return !appearance_.reduceMotion || changesFace;
+    if (!appearanceOf(*this).reduceMotion) {
+        return true;
+    }
+    const bool reacts = doing_.reaction && now < *doing_.reaction + duration(doing_.reactionGesture);
+    const bool swings = pressedAt_ || (doing_.letGo && now < *doing_.letGo + settled);
+    return reacts || swings || doing_.mood == wumble::WumbleMood::blinking ||
+           WumbleAnimator::untilBlink(now - clock_.start) == 0;
 }
 
 bool WumbleView::isLively(double now) const {
@@ -230,14 +241,20 @@ bool WumbleView::isLively(double now) const {
     return showsGesture_ || reacts || swings || isLoud || now < doing_.moodStart + freshMood;
 }
 
-/// Draws now, and keeps drawing while it is seen and something moves.
 void WumbleView::nextFrame() {
     update();
-    const double now = clock_.now();
-    if (!isVisible() || !isMoving(now)) {
+    keepMoving();
+}
+
+/// Asks for the next frame while it is seen: soon while something moves, else for the next blink.
+void WumbleView::keepMoving() {
+    if (!isVisible()) {
         return frames_.stop();
     }
-    const int interval = isLively(now) ? livelyFrames : calmFrames;
+    const double now = clock_.now();
+    const int interval = !isMoving(now)  ? untilNextBlink(now - clock_.start)
+                         : isLively(now) ? livelyFrames
+                                         : calmFrames;
     if (!frames_.isActive() || frames_.interval() != interval) {
         frames_.start(interval);
     }
@@ -252,12 +269,14 @@ void WumbleView::paintEvent(QPaintEvent*) {
     const QRectF place = QRectF(rect()).adjusted(free, free, -free, -free);
     const WumblePose shown = pose(clock_.now());
     showsGesture_ = shown.gesture != WumbleGesture::still;
-    SoftWumble::draw(painter, place, doing_.day, shown, sticker_, stickerColours(appearance_, tweaks_));
+    const Appearance look = appearanceOf(*this);
+    SoftWumble::draw(painter, place, doing_.day, shown, sticker_, stickerColours(look, tweaks_));
     if (hasFocus()) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(colour(Role::line, appearance_), 2, Qt::DotLine));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 12, 12);
+        const double inside = focusRingReach;
+        drawFocusRing(painter, QRectF(rect()).adjusted(inside, inside, -inside, -inside), Radius::control,
+                      look);
     }
+    keepMoving();
 }
 
 void WumbleView::mousePressEvent(QMouseEvent* event) {

@@ -29,10 +29,14 @@ public:
     /// Told of every gesture that a poke brings, for the sound of it.
     static std::function<void(wumble::WumbleGesture)> onPoke;
 
+    /// Where the pointer is on the desktop, for pets that follow it; they look straight ahead while nobody tells.
+    static std::function<std::optional<QPointF>()> desktopPointer;
+
     void setDay(const wumble::WumbleDay& day);
     void setMood(wumble::WumbleMood mood);
     void setCalm(bool calm);
-    void setAppearance(Appearance appearance);
+    /// Without one it has that of the widgets it is in.
+    void setAppearance(const Appearance& appearance);
     void setTweaks(const SoftWumble::Tweaks& tweaks);
     void setClock(WumbleClock clock);
     void setRandom(wumble::Random random);
@@ -57,7 +61,7 @@ public:
     /// What is drawn at that time; the same time gives the same pose at any frame rate.
     WumblePose pose(double now);
 
-    /// A pet that stands still asks for no frames.
+    /// With reduced motion a pet asks for frames only while its face changes.
     bool isMoving(double now) const;
 
 protected:
@@ -70,14 +74,14 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    WumblePose firmPose(double now, const Look& pointer, const wumble::WumbleJelly& jelly) const;
+    WumblePose firmPose(double now, const Look& pointer, bool reduceMotion) const;
     Look pointerLook() const;
     double pulledBy(double now) const;
     bool isLively(double now) const;
     void say();
     void nextFrame();
+    void keepMoving();
 
-    Appearance appearance_;
     SoftWumble::Tweaks tweaks_;
     SoftWumble::Sticker sticker_ = SoftWumble::Sticker::dieCut;
     WumbleClock clock_ = realClock();

@@ -94,16 +94,16 @@ void drawLines(QPainter& painter, const HeadsUpWords::Pill& words, double width,
 
 } // namespace
 
-CountdownView::CountdownView(const AppState& state, const MainLoop& loop, const Appearance& appearance,
+CountdownView::CountdownView(const AppState& state, MainLoop& loop, const Appearance& appearance,
                              std::shared_ptr<const ObservedPresence> presence)
     : state_(state), loop_(loop), presence_(std::move(presence)),
       width_(wordsLeft + wordsWidth(state, appearance) + wordsRight),
       pet_(*this, state.today.value(), loop, {8, 8, pet, pet}, {0, 0, petRoom, petRoom}),
-      frames_(loop, [this](double) { turn(); }) {
+      refreshing_(loop, [this] { refresh(); }), frames_(loop, [this](double) { turn(); }) {
     resize(QSizeF(width_, height).toSize());
     pet_.view().setPokable(false);
     const auto follows = [&](const auto&... fields) {
-        (observers_.emplace_back(observe(fields, [this] { refresh(); })), ...);
+        (observers_.emplace_back(observe(fields, [this] { refreshing_.ask(); })), ...);
     };
     follows(state.secondsUntilBreak, state.upcomingKind, state.hold, state.typingHoldEnds, state.now,
             state.dragging, state.typingNow, state.detectorStatus);

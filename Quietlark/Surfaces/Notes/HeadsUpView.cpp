@@ -52,9 +52,10 @@ double lineHeight(const TextStyle& style, const Appearance& appearance) {
 } // namespace
 
 HeadsUpView::HeadsUpView(const AppState& state, std::function<HeadsUpWords::Choices()> choices,
-                         const MainLoop& loop, Followed followed)
+                         MainLoop& loop, Followed followed)
     : state_(state), choices_(std::move(choices)), loop_(loop), followed_(std::move(followed)),
-      pet_(*this, state.today.value(), loop, petPlace, petRoom), frames_(loop, [this](double) { morph(); }) {
+      pet_(*this, state.today.value(), loop, petPlace, petRoom), refreshing_(loop, [this] { refresh(); }),
+      frames_(loop, [this](double) { morph(); }) {
     resize(cardSize.toSize());
     new PointerHover(*this, [this](bool inside) { onHover(inside); });
     follow();
@@ -66,11 +67,11 @@ HeadsUpView::~HeadsUpView() = default;
 
 void HeadsUpView::follow() {
     const auto follows = [this](const auto&... fields) {
-        (observers_.emplace_back(observe(fields, [this] { refresh(); })), ...);
+        (observers_.emplace_back(observe(fields, [this] { refreshing_.ask(); })), ...);
     };
     follows(state_.secondsUntilBreak, state_.upcomingKind, state_.hold, state_.dragging,
             state_.detectorStatus, state_.breatherAfter, state_.ignoringSmartPause, state_.rawSmartActivity,
-            state_.snoozesRemaining, state_.canSnooze, state_.now, state_.today);
+            state_.snoozesRemaining, state_.canSnooze, state_.settings, state_.now, state_.today);
     observers_.emplace_back(observe(*followed_.hello, [this] { greet(); }));
     observers_.emplace_back(observe(*followed_.answer, [this] { turnIntoAnswer(); }));
 }

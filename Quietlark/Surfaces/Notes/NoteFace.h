@@ -66,6 +66,7 @@ private:
     QSizeF room_;
     Appearance titleLook_;
     Appearance subtitleLook_;
+    TextStyle titleStyle_;
     TextStyle subtitleStyle_;
     double titleHeight_ = 0;
     double subtitleHeight_ = 0;

@@ -1,6 +1,7 @@
 #include "Quietlark/Pet/WumbleView.h"
 
 #include "Quietlark/Pet/WumbleAnimator.h"
+#include "Quietlark/Theme/AppearanceScope.h"
 #include "tests/look/Drawn.h"
 
 #include <QCoreApplication>
@@ -143,16 +144,49 @@ TEST(WumbleView, itGazesWhereItIsTold) {
     EXPECT_NEAR(pose.sway, 0.5 * 12, 0.5);
 }
 
-TEST(WumbleView, withReducedMotionItStandsStillAndAsksForNoFrames) {
+TEST(WumbleView, withReducedMotionItStandsStillButForItsFace) {
     Stage stage;
     stage.view.setAppearance({.reduceMotion = true});
-    EXPECT_FALSE(stage.view.isMoving(1));
-    EXPECT_EQ(stage.view.pose(1), stage.view.pose(9.7));
+    EXPECT_FALSE(stage.view.isMoving(2));
+    EXPECT_EQ(stage.view.pose(2), stage.view.pose(4.7));
+    auto blinking = stage.view.pose(1.4);
+    EXPECT_GT(blinking.lids, 0.5);
+    EXPECT_TRUE(stage.view.isMoving(1.4));
+    blinking.lids = 0;
+    EXPECT_EQ(blinking, stage.view.pose(2));
     stage.view.react(WumbleGesture::giggle);
     EXPECT_TRUE(stage.view.isMoving(0.5));
     EXPECT_EQ(stage.view.pose(0.5).gesture, WumbleGesture::still);
     EXPECT_NE(stage.view.pose(0.5).face, stage.view.pose(3).face);
     EXPECT_FALSE(stage.view.isMoving(2));
+}
+
+TEST(WumbleView, aChangeOfTheAppearanceAroundItReachesIt) {
+    QWidget page;
+    WumbleView view(petOf(WumbleBase::yuzu), &page);
+    double now = 0;
+    view.setClock({.now = [&now] { return now; }});
+    view.resize(100, 100);
+    const QImage light = view.grab().toImage();
+    setAppearance(page, {.dark = true});
+    EXPECT_GT(test::difference(view.grab().toImage(), light), 0.5);
+    setAppearance(page, {.reduceMotion = true});
+    EXPECT_FALSE(view.isMoving(2));
+    setAppearance(page, {});
+    EXPECT_TRUE(view.isMoving(2));
+}
+
+TEST(WumbleView, itLooksToThePointerWhereThatIsTold) {
+    Stage stage;
+    stage.view.setCalm(true);
+    stage.view.setFollowsPointer(true);
+    stage.view.show();
+    EXPECT_DOUBLE_EQ(stage.view.pose(2).look, 0);
+    WumbleView::desktopPointer = [&] { return std::optional(QPointF(stage.view.mapToGlobal(QPoint(400, 50)))); };
+    EXPECT_GT(stage.view.pose(2.1).look, 0.7);
+    WumbleView::desktopPointer = [] { return std::optional<QPointF>(); };
+    EXPECT_DOUBLE_EQ(stage.view.pose(2.2).look, 0);
+    WumbleView::desktopPointer = nullptr;
 }
 
 TEST(WumbleView, itsNameSaysWhichOneItIs) {
