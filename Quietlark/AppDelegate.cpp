@@ -43,20 +43,38 @@ int refuse(const std::filesystem::path& folder) {
     return 0;
 }
 
+/// A lock screen needs the keyboard that a break screen holds.
+std::unique_ptr<SurfaceHost> hostYieldingToLocks(Platform& platform) {
+    auto host = makeSurfaceHost();
+    platform.screenLock = std::make_unique<KeyboardYieldingLock>(std::move(platform.screenLock), *host);
+    return host;
+}
+
 } // namespace
 
 AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options)
-    : platform_(makeLinuxPlatform(loop_)), host_(makeSurfaceHost()), sounds_(*platform_.soundOutput),
+    : platform_(makeLinuxPlatform(loop_)), accessibility_(*platform_.announcer, *platform_.look),
+      host_(hostYieldingToLocks(platform_)), sounds_(*platform_.soundOutput),
       model_(folder, {.mainLoop = loop_,
                       .platform = platform_,
                       .sounds = &sounds_,
                       .loginItem = platform_.loginItem.get(),
+                      .accessibility = &accessibility_,
                       .calendar = systemCalendar()}),
-      surfaces_({.model = model_, .loop = loop_, .host = *host_, .windows = *platform_.windows}),
-      termination_([] { QCoreApplication::quit(); }) {
+      surfaces_({.model = model_,
+                 .loop = loop_,
+                 .host = *host_,
+                 .windows = *platform_.windows,
+                 .screenLock = platform_.screenLock.get(),
+                 .accessibility = &accessibility_,
+                 .desktopLook = platform_.look.get(),
+                 .tray = platform_.tray.get(),
+                 .doors = {.quit = [] { QCoreApplication::quit(); }}}),
+      termination_([] { QCoreApplication::quit(); }),
+      processEnd_([this] { model_.prepareForTermination(); }) {
     WumbleView::desktopPointer = [this] { return host_->pointer(); };
-    platform_.screenLock = std::make_unique<KeyboardYieldingLock>(std::move(platform_.screenLock), *host_);
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
+    platform_.copyNotice->observeActivation([this] { reopen(); });
     platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });
     beginWhenTheDesktopHasAnswered(options, loop_.uptime() + longestWaitForAnswers);
 }
@@ -73,9 +91,29 @@ void AppDelegate::beginWhenTheDesktopHasAnswered(const command::RunApplication& 
 void AppDelegate::begin(const command::RunApplication& options) {
     model_.start(AppModel::Running::ticking);
     carryOut(options);
-    if (model_.state().life.value().welcomed.value_or(true)) {
+    if (isWelcomed()) {
         model_.greetToday();
+    } else {
+        showWelcome();
     }
+}
+
+bool AppDelegate::isWelcomed() const { return model_.state().life.value().welcomed.value_or(true); }
+
+/// The person started the program again, or pressed its icon.
+void AppDelegate::reopen() {
+    if (isWelcomed()) {
+        surfaces_.openPopover();
+    } else {
+        showWelcome();
+    }
+}
+
+void AppDelegate::showWelcome() {
+    if (!welcome_) {
+        welcome_ = std::make_unique<WelcomeWindow>(model_, platform_.loginItem.get(), surfaces_.appearance());
+    }
+    welcome_->present();
 }
 
 AppDelegate::~AppDelegate() {

@@ -3,11 +3,14 @@
 #include "Quietlark/CommandLine.h"
 #include "Quietlark/Model/AppModel.h"
 #include "Quietlark/Model/CuePlayer.h"
+#include "Quietlark/Model/DesktopAccessibility.h"
 #include "Quietlark/Platform/Platform.h"
 #include "Quietlark/Platform/SurfaceHost.h"
+#include "Quietlark/ProcessEnd.h"
 #include "Quietlark/QtMainLoop.h"
 #include "Quietlark/Surfaces/InstalledSurfaces.h"
 #include "Quietlark/TerminationSignals.h"
+#include "Quietlark/Welcome/WelcomeWindow.h"
 
 #include <filesystem>
 #include <memory>
@@ -28,14 +31,20 @@ private:
     void beginWhenTheDesktopHasAnswered(const command::RunApplication& options, double deadline);
     void begin(const command::RunApplication& options);
     void carryOut(const command::RunApplication& options);
+    bool isWelcomed() const;
+    void reopen();
+    void showWelcome();
 
     QtMainLoop loop_;
     Platform platform_;
+    DesktopAccessibility accessibility_;
     std::unique_ptr<SurfaceHost> host_;
     CuePlayer sounds_;
     AppModel model_;
     InstalledSurfaces surfaces_;
+    std::unique_ptr<WelcomeWindow> welcome_; ///< made when it is first needed
     TerminationSignals termination_;
+    ProcessEnd processEnd_;
 };
 
 /// Takes the folder and runs until the process is asked to end, or tells the copy that has the folder. Gives the exit

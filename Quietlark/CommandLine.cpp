@@ -78,13 +78,13 @@ constexpr std::array earlyTools{
     Tool{"--sprite-sheet", [](auto option, auto& all) -> Command { return renderLight(option, all); }},
     Tool{"--icon-options", [](auto option, auto& all) -> Command { return renderLight(option, all); }},
     Tool{"--app-icon", [](auto option, auto& all) -> Command { return renderLight(option, all); }},
+    Tool{"--render-previews", [](auto option, auto& all) -> Command { return renderLight(option, all); }},
 };
 constexpr std::array tools{
     Tool{"--ux-review", [](auto option, auto& all) -> Command { return render(option, all); }},
     Tool{"--nudge-clips", [](auto option, auto& all) -> Command { return render(option, all); }},
     Tool{"--motion-clips", [](auto option, auto& all) -> Command { return render(option, all); }},
     Tool{"--nudge-cards", [](auto option, auto& all) -> Command { return render(option, all); }},
-    Tool{"--note-pictures", [](auto option, auto& all) -> Command { return render(option, all); }},
     Tool{"--export-sounds", [](auto option, auto& all) -> Command { return render(option, all); }},
     Tool{"--watch-mic",
          [](auto option, auto& all) -> Command {

@@ -48,7 +48,11 @@ public:
     BreakShow& operator=(const BreakShow&) = delete;
 
     AppModel& model() { return stage_.model; }
-    QImage picture(double scale) { return stage_.picture(scale); }
+    /// Once all that moves is where it has to be now.
+    QImage picture(double scale) {
+        stage_.advance(0);
+        return stage_.picture(scale);
+    }
 
     /// In steps of a frame, so that everything takes its way.
     void run(double seconds) {

@@ -40,14 +40,15 @@ QImage cardAt(const Moment& moment, const Appearance& appearance, double scale) 
 } // namespace
 
 bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance) {
-    constexpr double scale = 2;
     bool saved = true;
     for (const auto& moment : moments) {
-        saved = save(cardAt(moment, appearance, scale), folder, std::string(moment.name) + ".png") && saved;
+        const std::string name = moment.name;
+        saved = save(cardAt(moment, appearance, 1), folder, name + ".png") && saved;
+        saved = save(cardAt(moment, appearance, 2), folder, name + "@2x.png") && saved;
     }
     Appearance large = appearance;
     large.textScale = 1.5;
-    return save(cardAt(moments.front(), large, scale), folder, "blink-large-text.png") && saved;
+    return save(cardAt(moments.front(), large, 2), folder, "blink-large-text@2x.png") && saved;
 }
 
 } // namespace quietlark

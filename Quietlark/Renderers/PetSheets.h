@@ -44,4 +44,10 @@ bool renderWelcomePictures(const std::filesystem::path& folder, Appearance appea
 /// The break screen in each of its states, at one and two pixels a point.
 bool renderBreakScreens(const std::filesystem::path& folder, Appearance appearance);
 
+/// All of the surfaces above, light and dark, each in a folder of its own.
+bool renderPreviews(const std::filesystem::path& folder, Appearance appearance);
+
+/// A walk through one morning with the program, situation by situation.
+bool renderUXReview(const std::filesystem::path& folder, Appearance appearance);
+
 } // namespace quietlark

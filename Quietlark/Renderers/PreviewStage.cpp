@@ -1,16 +1,15 @@
 #include "Quietlark/Renderers/PreviewStage.h"
 
 #include "Quietlark/Renderers/PetCells.h"
+#include "Quietlark/Surfaces/FrameTicker.h"
 #include "WumbleCore/Life/DayKey.h"
 
-#include <QEventLoop>
-#include <QTimer>
+#include <QCoreApplication>
 
 namespace quietlark {
 
 namespace {
 
-constexpr int oneFrame = 20; ///< milliseconds in which everything that moves is drawn once
 constexpr QSizeF screenSize{1280, 800};
 constexpr wumble::Date monday{1773046800}; ///< 9 March 2026, 9:00 in UTC
 
@@ -50,9 +49,9 @@ PreviewStage::PreviewStage(const Appearance& look, const Choose& choose, int rev
 
 void PreviewStage::advance(double seconds) {
     loop.advance(seconds);
-    QEventLoop frames;
-    QTimer::singleShot(oneFrame, &frames, &QEventLoop::quit);
-    frames.exec();
+    FrameTicker::frameOfAll();
+    // Layouts, but no painting: that is done once, for a picture.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 } // namespace quietlark

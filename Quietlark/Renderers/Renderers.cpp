@@ -12,21 +12,16 @@ namespace {
 constexpr int couldNotWrite = 1;
 constexpr int unknownOption = 64;
 
-bool renderReview(const std::filesystem::path& folder, Appearance appearance) {
-    const bool popovers = renderTrayPictures(folder, appearance);
-    return renderWelcomePictures(folder, appearance) && popovers;
-}
-
 constexpr std::array table{
     Renderer{"--sprite-sheet", "build/sprites", renderSprites},
     Renderer{"--icon-options", "build/icon-options", renderIconOptions},
     Renderer{"--app-icon", "build/app-icon", renderAppIcon},
+    Renderer{"--render-previews", "build/previews", renderPreviews},
+    Renderer{"--ux-review", "build/ux", renderUXReview},
     Renderer{"--nudge-clips", "build/nudges", renderNudgeClips},
     Renderer{"--motion-clips", "build/motion", renderMotion},
     Renderer{"--nudge-cards", "build/nudge-cards", renderNudgeCards},
-    Renderer{"--note-pictures", "build/notes", renderNotePictures},
     Renderer{"--export-sounds", "build/sounds", exportSounds},
-    Renderer{"--ux-review", "build/ux", renderReview},
     Renderer{"--looks-sheets", "build/looks", renderLooks},
 };
 

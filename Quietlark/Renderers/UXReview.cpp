@@ -32,6 +32,7 @@ public:
     void warnings();
     void breakScreen();
     void comingBack();
+    void waiting();
 
     bool saveSheet();
 
@@ -81,8 +82,10 @@ void Walk::warnings() {
     passTo(3.4);
     picture("The last seconds, beside the pointer");
     program_.type(true);
-    pass(5);
-    picture("The person types, and the break waits");
+    for (int moment = 0; moment < 10; ++moment) {
+        pass(0.5);
+    }
+    picture("Typing holds the count where it stands");
     program_.type(false);
 }
 
@@ -94,7 +97,7 @@ void Walk::breakScreen() {
     picture("The break screen comes");
     pass(9);
     picture("The rest");
-    stage().model.setBreakHint("Press Esc again to skip");
+    stage().model.setBreakHint("Press Esc once more to skip");
     pass(1);
     picture("Escape was pressed once");
     stage().model.setBreakHint(std::nullopt);
@@ -121,6 +124,17 @@ void Walk::comingBack() {
     picture("A week is over");
 }
 
+void Walk::waiting() {
+    stage().model.resume();
+    stage().model.update([](auto& settings) { settings.countdownDuration = 0; });
+    pass(20);
+    passTo(2);
+    program_.type(true);
+    pass(4);
+    picture("Without a count, the break waits for the typing");
+    program_.type(false);
+}
+
 bool Walk::saveSheet() {
     auto layout = paper(stage().appearance.value(), columns, cellSize.width());
     layout.height = cellSize.height();
@@ -135,6 +149,7 @@ bool renderUXReview(const std::filesystem::path& folder, Appearance appearance) 
     walk.warnings();
     walk.breakScreen();
     walk.comingBack();
+    walk.waiting();
     return walk.saveSheet();
 }
 

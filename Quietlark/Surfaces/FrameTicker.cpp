@@ -1,6 +1,8 @@
 #include "Quietlark/Surfaces/FrameTicker.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace quietlark {
 
@@ -8,12 +10,29 @@ namespace {
 
 constexpr double usualRefreshRate = 60;
 
+std::vector<FrameTicker*>& all() {
+    static std::vector<FrameTicker*> tickers;
+    return tickers;
+}
+
 } // namespace
 
 FrameTicker::FrameTicker(const MainLoop& loop, std::function<void(double)> tick)
     : loop_(loop), tick_(std::move(tick)) {
     frames_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&frames_, &QTimer::timeout, &frames_, [this] { frame(); });
+    all().push_back(this);
+}
+
+FrameTicker::~FrameTicker() { std::erase(all(), this); }
+
+void FrameTicker::frameOfAll() {
+    for (FrameTicker* ticker : std::vector(all())) {
+        // A frame may end what another ticker moves.
+        if (std::ranges::find(all(), ticker) != all().end() && ticker->isRunning()) {
+            ticker->frame();
+        }
+    }
 }
 
 void FrameTicker::start(double refreshRate) {

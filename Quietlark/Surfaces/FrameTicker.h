@@ -13,11 +13,17 @@ namespace quietlark {
 class FrameTicker {
 public:
     FrameTicker(const MainLoop& loop, std::function<void(double)> tick);
+    ~FrameTicker();
+    FrameTicker(const FrameTicker&) = delete;
+    FrameTicker& operator=(const FrameTicker&) = delete;
 
     /// Goes on if it runs already. `refreshRate`: frames a second, taken for 60 unless above 0.
     void start(double refreshRate = 60);
     void stop() { frames_.stop(); }
     bool isRunning() const { return frames_.isActive(); }
+
+    /// A frame at once of all that run: for films, whose time passes faster than that of the screen.
+    static void frameOfAll();
 
 private:
     void frame();

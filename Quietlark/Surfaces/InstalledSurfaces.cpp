@@ -1,19 +1,35 @@
 #include "Quietlark/Surfaces/InstalledSurfaces.h"
 
+#include "Quietlark/Surfaces/BreakScreen/BreakOverlayController.h"
 #include "Quietlark/Surfaces/Notes/CountdownController.h"
 #include "Quietlark/Surfaces/Notes/HeadsUpController.h"
 #include "Quietlark/Surfaces/Notes/ToastController.h"
 #include "Quietlark/Surfaces/Nudges/NudgeCards.h"
+#include "Quietlark/Surfaces/Tray/StatusItemController.h"
+
+#include <optional>
 
 namespace quietlark {
 
 /// One member for each controller; what a new one offers to the model is named in `surfaces`.
 struct InstalledSurfaces::Controllers {
-    explicit Controllers(const SurfaceContext& shared) : context(shared) {}
+    Controllers(const SurfaceContext& shared, const SurfaceServices& services)
+        : context(shared), overlay(context, services.screenLock) {
+        if (services.tray != nullptr) {
+            statusItem.emplace(context, *services.tray, services.doors);
+        }
+    }
 
-    Surfaces surfaces() { return {.headsUp = &headsUp, .toasts = &toasts, .countdown = &countdown}; }
+    Surfaces surfaces() {
+        return {.statusItem = statusItem ? &*statusItem : nullptr,
+                .headsUp = &headsUp,
+                .overlay = &overlay,
+                .toasts = &toasts,
+                .countdown = &countdown};
+    }
 
     SurfaceContext context;
+    BreakOverlayController overlay;
     NudgeCards nudgeCards{context};
     HeadsUpController headsUp{context};
     CountdownController countdown{context};
@@ -21,6 +37,7 @@ struct InstalledSurfaces::Controllers {
                            [this](const auto& toast, const auto& screen, Card* old, const auto& calls) {
                                return nudgeCards.make(toast, screen, old, calls);
                            }};
+    std::optional<StatusItemController> statusItem;
 };
 
 Appearance appearanceFor(const DesktopLook& look, wumble::Appearance choice) {
@@ -44,7 +61,8 @@ InstalledSurfaces::InstalledSurfaces(const SurfaceServices& services)
                                                                 .host = services.host,
                                                                 .windows = services.windows,
                                                                 .accessibility = services.accessibility,
-                                                                .appearance = appearance_});
+                                                                .appearance = appearance_},
+                                                 services);
     model_.install(controllers_->surfaces());
 }
 
@@ -52,6 +70,12 @@ InstalledSurfaces::~InstalledSurfaces() {
     model_.install({});
     if (desktopLook_) {
         desktopLook_->observe({});
+    }
+}
+
+void InstalledSurfaces::openPopover() {
+    if (auto& item = controllers_->statusItem; item && !item->isPopoverShown()) {
+        item->toggle(std::nullopt);
     }
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "Quietlark/Platform/DesktopLook.h"
+#include "Quietlark/Platform/TrayItem.h"
 #include "Quietlark/Surfaces/SurfaceContext.h"
+#include "Quietlark/Surfaces/Tray/TrayActions.h"
 
 #include <QProperty>
 
@@ -15,8 +17,11 @@ struct SurfaceServices {
     MainLoop& loop;
     SurfaceHost& host;
     WindowSystem& windows;
+    ScreenLock* screenLock = nullptr;         ///< may be missing
     Accessibility* accessibility = nullptr;   ///< may be missing
     DesktopLookSource* desktopLook = nullptr; ///< may be missing
+    TrayItem* tray = nullptr;                 ///< may be missing
+    TrayDoors doors = {};
 };
 
 /// How things are to look: as the desktop has it, light or dark by the person's own choice where there is one.
@@ -31,6 +36,9 @@ public:
     InstalledSurfaces& operator=(const InstalledSurfaces&) = delete;
 
     const QProperty<Appearance>& appearance() const { return appearance_; }
+
+    /// For the person who starts the program again, and may have no panel.
+    void openPopover();
 
 private:
     struct Controllers;

@@ -8,7 +8,7 @@
 #include "Quietlark/Theme/Controls/StickerButton.h"
 #include "Quietlark/Theme/Controls/StickerSwitch.h"
 #include "Quietlark/Theme/Sticker.h"
-#include "Quietlark/Welcome/PaperCard.h"
+#include "Quietlark/Windows/PaperCard.h"
 #include "WumbleCore/Words/Format.h"
 
 #include <QGridLayout>

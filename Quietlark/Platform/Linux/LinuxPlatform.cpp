@@ -4,6 +4,7 @@
 #include "Quietlark/Platform/Linux/Audio/PulseSoundOutput.h"
 #include "Quietlark/Platform/Linux/DBus/BusServices.h"
 #include "Quietlark/Platform/Linux/Desktop/AutostartEntry.h"
+#include "Quietlark/Platform/Linux/LinuxTrayItem.h"
 #include "Quietlark/Platform/Linux/Proc/LinuxAppIdentity.h"
 #include "Quietlark/Platform/Linux/Proc/LinuxApplications.h"
 #include "Quietlark/Platform/Linux/Video/VideoServices.h"
@@ -29,6 +30,12 @@ struct Foundation {
     std::function<std::optional<double>()> mutterIdle;
     std::function<std::optional<bool>()> displaysAsleep;
 };
+
+/// Panels of a Wayland session take no X windows in.
+std::string trayDisplay() {
+    return qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? qEnvironmentVariable("DISPLAY").toStdString()
+                                                          : "";
+}
 
 } // namespace
 
@@ -56,7 +63,7 @@ Platform makeLinuxPlatform(MainLoop& loop) {
     platform.copyNotice = std::move(bus.copyNotice);
     platform.look = std::move(bus.look);
     platform.announcer = std::move(bus.announcer);
-    platform.tray = std::move(bus.tray);
+    platform.tray = std::make_unique<LinuxTrayItem>(std::move(bus.tray), trayDisplay());
 
     VideoServices video = makeVideoServices(base.identity);
     platform.camera = std::move(video.camera);

@@ -188,6 +188,11 @@ std::optional<wumble::ActiveBreak> currentBreak(const AppModel& model, const Bre
     return stage.leftAt.value() ? stage.shownBreak : std::nullopt;
 }
 
+bool isBetweenScenes(const AppModel& model, const BreakStage& stage) {
+    const auto phase = shownPhase(model, stage);
+    return !phase || (std::holds_alternative<screen::Resting>(*phase) && !currentBreak(model, stage));
+}
+
 bool isFinished(const wumble::ActiveBreak& shown, wumble::Date now, bool holdUntilEndPressed) {
     if (shown.isPreview()) {
         return false;

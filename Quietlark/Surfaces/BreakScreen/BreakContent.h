@@ -58,6 +58,10 @@ std::optional<BreakScreenPhase> shownPhase(const AppModel& model, const BreakSta
 /// The break that the screen is about; absent when there is none.
 std::optional<wumble::ActiveBreak> currentBreak(const AppModel& model, const BreakStage& stage);
 
+/// Whether the model is in the middle of ending the break or the screen: what stands goes on being shown until it has
+/// told the screen what comes.
+bool isBetweenScenes(const AppModel& model, const BreakStage& stage);
+
 /// Whether a break only waits for being ended.
 bool isFinished(const wumble::ActiveBreak& shown, wumble::Date now, bool holdUntilEndPressed);
 

@@ -1,6 +1,7 @@
 #include "Quietlark/Surfaces/BreakScreen/BreakControls.h"
 
 #include "Quietlark/Surfaces/BreakScreen/BreakLayout.h"
+#include "Quietlark/Surfaces/BreakScreen/Fading.h"
 #include "WumbleCore/Life/Vocabulary.h"
 #include "WumbleCore/Motion/MotionTokens.h"
 
@@ -39,7 +40,7 @@ StickerButton* makeButton(const Face& face, QWidget& parent) {
     if (face.symbol) {
         button->setSymbol(*face.symbol);
     }
-    button->setOpacity(0);
+    setFading(*button, 0);
     button->hide();
     return button;
 }
@@ -124,14 +125,14 @@ QPointF BreakControls::cornerAt(const Item& item, wumble::Date now) {
 void BreakControls::poseItem(Item& item, const WordTimes& times, wumble::Date now) {
     if (item.isFormer) {
         const double left = formerWords(times, now);
-        item.button->setOpacity(left);
+        setFading(*item.button, left);
         item.button->setVisible(left > 0);
         item.isFormer = left > 0;
         return;
     }
     const EntrancePose pose = wordPose(times, order::controls, now);
     const bool fadesIn = item.appearedAt && now >= *item.appearedAt;
-    item.button->setOpacity(pose.opacity * (fadesIn ? Motion::rise.value(now - *item.appearedAt) : 1));
+    setFading(*item.button, pose.opacity * (fadesIn ? Motion::rise.value(now - *item.appearedAt) : 1));
     placeFace(*item.button, {cornerAt(item, now), item.place.size()}, pose.drop);
 }
 

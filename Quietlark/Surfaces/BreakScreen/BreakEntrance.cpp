@@ -43,11 +43,6 @@ EntrancePose entering(const BreakPart& part, double t, bool reduceMotion) {
 constexpr int lastWords = 4;
 constexpr double afterFormerWords = 0.2; ///< the place is free then
 
-/// How words come into a place of their own later on; at rest for a time before the call.
-EntrancePose wordsCalled(wumble::Date at, double delay, wumble::Date now, bool reduceMotion) {
-    return now < at ? EntrancePose{} : wordsEntering(now - at - delay, reduceMotion);
-}
-
 double leaving(const BreakPart& part, double t) {
     return std::holds_alternative<part::Ground>(part) ? 1 - Motion::depart.value(t - groundStays)
                                                       : wordsLeaving(t);
@@ -67,9 +62,9 @@ EntrancePose wordPose(const WordTimes& times, int order, wumble::Date now) {
     EntrancePose pose = entrancePose(part::Words{order}, times.screen, now, times.reduceMotion);
     EntrancePose called;
     if (times.revealAt) {
-        called = wordsCalled(*times.revealAt, betweenWords * order, now, times.reduceMotion);
-    } else if (times.sceneAt) {
-        called = wordsCalled(*times.sceneAt, afterFormerWords, now, times.reduceMotion);
+        called = wordsEntering(now - *times.revealAt - betweenWords * order, times.reduceMotion);
+    } else if (times.sceneAt && now >= *times.sceneAt) {
+        called = wordsEntering(now - *times.sceneAt - afterFormerWords, times.reduceMotion);
     }
     pose.opacity *= called.opacity;
     pose.drop += called.drop;

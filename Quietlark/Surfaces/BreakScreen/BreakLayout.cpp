@@ -41,8 +41,8 @@ struct TitleSize {
 };
 
 /// The longer a title, the smaller it is set.
-constexpr std::array<TitleSize, 4> titleSizes{
-    {{TypeToken::breakTitle, 2}, {TypeToken::windowTitle, 3}, {TypeToken::title, 4}, {TypeToken::title, 8}}};
+constexpr std::array<TitleSize, 3> titleSizes{
+    {{TypeToken::breakTitle, 2}, {TypeToken::windowTitle, 4}, {TypeToken::title, 8}}};
 constexpr std::array<TitleSize, 2> otherTitleSizes{{{TypeToken::windowTitle, 2}, {TypeToken::title, 4}}};
 
 TextStyle titleStyle(const TitleSize& size) {

@@ -231,6 +231,9 @@ void BreakOverlayController::announceScene() {
         return;
     }
     const BreakContent content = breakContent(context_.model, *stage_, true, context_.loop.now());
+    if (isBetweenScenes(context_.model, *stage_)) {
+        return;
+    }
     if (content.scene != std::exchange(announcedScene_, content.scene)) {
         announce(content.title, content.subtitle);
     }

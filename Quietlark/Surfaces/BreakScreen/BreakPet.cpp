@@ -1,7 +1,8 @@
 #include "Quietlark/Surfaces/BreakScreen/BreakPet.h"
 
-#include "Quietlark/Surfaces/BreakScreen/FadedLayer.h"
 #include "Quietlark/Theme/AppearanceScope.h"
+
+#include <QPainter>
 
 #include <cmath>
 #include <utility>
@@ -27,15 +28,18 @@ void BreakPet::setPlace(const QRectF& square) {
     setGeometry(rounded(corner.x()), rounded(corner.y()), rounded(side), rounded(side));
 }
 
-void BreakPet::setPresence(double scale, double opacity) {
-    if (scale != scale_ || opacity != opacity_) {
+void BreakPet::setScale(double scale) {
+    if (scale_ != scale) {
         scale_ = scale;
-        opacity_ = opacity;
         update();
     }
 }
 
-void BreakPet::drawScaled(QPainter& painter) {
+void BreakPet::paintEvent(QPaintEvent* event) {
+    if (scale_ == 1) {
+        return WumbleView::paintEvent(event);
+    }
+    QPainter painter(this);
     const double free = air * width();
     const QRectF place = QRectF(rect()).adjusted(free, free, -free, -free);
     const QPointF foot(place.center().x(), place.bottom());
@@ -44,13 +48,6 @@ void BreakPet::drawScaled(QPainter& painter) {
     painter.translate(-foot);
     SoftWumble::draw(painter, place, day(), pose(time_.now()), SoftWumble::Sticker::dieCut,
                      stickerColours(appearanceOf(*this)));
-}
-
-void BreakPet::paintEvent(QPaintEvent* event) {
-    if (scale_ == 1 && opacity_ >= 1) {
-        return WumbleView::paintEvent(event);
-    }
-    drawFaded(*this, opacity_, [this](QPainter& painter) { drawScaled(painter); });
 }
 
 } // namespace quietlark

@@ -12,18 +12,15 @@ public:
     /// Puts its square there, in points of the parent; the widget has air around it for hops.
     void setPlace(const QRectF& square);
 
-    /// `scale` is about the middle of its foot, `opacity` from 0 to 1.
-    void setPresence(double scale, double opacity);
+    /// About the middle of its foot.
+    void setScale(double scale);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void drawScaled(QPainter& painter);
-
     WumbleClock time_;
     double scale_ = 1;
-    double opacity_ = 1;
 };
 
 } // namespace quietlark

@@ -43,12 +43,10 @@ BreakView::BreakView(Setup setup)
                          .start = setup_.stage->petClockStart},
                         this)),
       ring_(new CountdownRing(setup_.context.loop, this)), dots_(new RevealDots(this)),
-      dotsOpacity_(new QGraphicsOpacityEffect(dots_)), tag_(new StickerTag(this)),
-      chip_(new StreakChip(StreakChip::Size::large, this)),
+      tag_(new StickerTag(this)), chip_(new StreakChip(StreakChip::Size::large, this)),
       lockButton_(new StickerButton(QStringLiteral("Lock screen"), StickerButton::Kind::quiet, this)),
       controls_(*this, [this](BreakControl control) { press(control); }),
       frames_(setup_.context.loop, [this](double) { frame(); }) {
-    dots_->setGraphicsEffect(dotsOpacity_);
     lockButton_->setSymbol(Symbol::lock);
     connect(lockButton_, &QAbstractButton::clicked, this, [this] {
         if (setup_.lock != nullptr) {
@@ -129,11 +127,10 @@ void BreakView::refresh() {
         lockButton_->setAttribute(Qt::WA_TransparentForMouseEvents);
         return frames_.start(setup_.screen.refreshRate);
     }
-    BreakContent next = breakContent(setup_.context.model, *setup_.stage, setup_.isPrimary, now);
-    // The model clears its state a moment before it tells the screen to leave: what stands goes on being shown.
-    if (next.scene == BreakScene::empty && content_.scene != BreakScene::empty) {
+    if (content_.scene != BreakScene::empty && isBetweenScenes(setup_.context.model, *setup_.stage)) {
         return;
     }
+    BreakContent next = breakContent(setup_.context.model, *setup_.stage, setup_.isPrimary, now);
     if (differOnlyInTime(next, content_)) {
         showTimes(next);
     } else if (next != content_) {

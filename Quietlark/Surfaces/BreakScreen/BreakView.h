@@ -12,7 +12,6 @@
 #include "Quietlark/Surfaces/SurfaceContext.h"
 #include "Quietlark/Theme/Controls/RevealDots.h"
 
-#include <QGraphicsOpacityEffect>
 #include <QKeyEvent>
 #include <QWidget>
 
@@ -96,7 +95,6 @@ private:
     BreakPet* pet_;
     CountdownRing* ring_;
     RevealDots* dots_;
-    QGraphicsOpacityEffect* dotsOpacity_;
     StickerTag* tag_;
     StreakChip* chip_;
     StickerButton* lockButton_;

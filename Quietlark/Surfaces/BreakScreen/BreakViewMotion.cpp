@@ -1,5 +1,6 @@
 #include "Quietlark/Surfaces/BreakScreen/BreakKeys.h"
 #include "Quietlark/Surfaces/BreakScreen/BreakView.h"
+#include "Quietlark/Surfaces/BreakScreen/Fading.h"
 #include "WumbleCore/Motion/MotionTokens.h"
 
 #include <algorithm>
@@ -26,7 +27,8 @@ BreakTimes BreakView::screenTimes() const {
 
 WordTimes BreakView::wordTimes() const {
     const auto& reveal = setup_.stage->reveal.value();
-    const bool reveals = content_.scene == BreakScene::celebrating && reveal;
+    const bool reveals =
+        content_.scene == BreakScene::celebrating && reveal && setup_.context.loop.now() >= reveal->startedAt;
     return {.screen = screenTimes(),
             .sceneAt = sceneAt_,
             .revealAt = reveals ? std::optional(reveal->poppedAt()) : std::nullopt,
@@ -96,7 +98,8 @@ void BreakView::posePet(wumble::Date now) {
     const EntrancePose pose = entrancePose(part::Wumble{}, screenTimes(), now, appearance_.reduceMotion);
     const auto& reveal = setup_.stage->reveal.value();
     pet_->setPlace(petPlace(now));
-    pet_->setPresence(pose.scale * (reveal ? reveal->petScale(now) : 1), pose.opacity);
+    pet_->setScale(pose.scale * (reveal ? reveal->petScale(now) : 1));
+    setFading(*pet_, pose.opacity);
 }
 
 void BreakView::poseThings(wumble::Date now) {
@@ -104,8 +107,7 @@ void BreakView::poseThings(wumble::Date now) {
     const EntrancePose dots = wordPose(times, order::ring, now);
     dots_->move(layout_.dots.topLeft().toPoint() + QPoint(0, static_cast<int>(dots.drop)));
     dots_->resize(layout_.dots.size().toSize());
-    dotsOpacity_->setOpacity(dots.opacity);
-    dotsOpacity_->setEnabled(dots.opacity < 1);
+    setFading(*dots_, dots.opacity);
 
     const double former = formerWords(times, now);
     times.sceneAt = ringAt_;
@@ -114,14 +116,14 @@ void BreakView::poseThings(wumble::Date now) {
     if (content_.ring) {
         ring_->setGeometry(QRectF(layout_.ring).translated(0, ring.drop).toRect());
     }
-    ring_->setOpacity(content_.ring ? ring.opacity : former);
+    setFading(*ring_, content_.ring ? ring.opacity : former);
     ring_->setVisible(content_.ring || (ring_->isVisibleTo(this) && former > 0));
 
     const EntrancePose bar = entrancePose(part::Words{order::footer}, times.screen, now, times.reduceMotion);
     if (content_.showsLock) {
         placeFace(*lockButton_, layout_.lock, bar.drop);
     }
-    lockButton_->setOpacity(content_.showsLock ? bar.opacity : former);
+    setFading(*lockButton_, content_.showsLock ? bar.opacity : former);
     lockButton_->setVisible(content_.showsLock || (lockButton_->isVisibleTo(this) && former > 0));
 }
 
@@ -131,8 +133,10 @@ void BreakView::poseTags(wumble::Date now) {
     const double opacity =
         entrancePose(part::Wumble{}, {.leftAt = setup_.stage->leftAt.value()}, now, appearance_.reduceMotion)
             .opacity;
-    tag_->setLanded(landed, opacity);
-    chip_->setLanded(landed, opacity);
+    tag_->setLanded(landed);
+    chip_->setLanded(landed);
+    setFading(*tag_, opacity);
+    setFading(*chip_, opacity);
 }
 
 /// The widgets have drawn themselves anew where they must; this is about what the view draws by itself.

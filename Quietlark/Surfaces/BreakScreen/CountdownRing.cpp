@@ -1,9 +1,10 @@
 #include "Quietlark/Surfaces/BreakScreen/CountdownRing.h"
 
-#include "Quietlark/Surfaces/BreakScreen/FadedLayer.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/TextLayout.h"
 #include "WumbleCore/Motion/Curve.h"
+
+#include <QPainter>
 
 #include <cmath>
 
@@ -71,13 +72,6 @@ void CountdownRing::setValue(const RingValue& value) {
     update();
 }
 
-void CountdownRing::setOpacity(double opacity) {
-    if (opacity_ != opacity) {
-        opacity_ = opacity;
-        update();
-    }
-}
-
 double CountdownRing::shownProgress(wumble::Date now) const {
     const double way =
         appearanceOf(*this).reduceMotion || now < changedAt_ ? 1 : easing.value(now - changedAt_);
@@ -87,9 +81,8 @@ double CountdownRing::shownProgress(wumble::Date now) const {
 wumble::Date CountdownRing::movingUntil() const { return changedAt_ + easing.duration; }
 
 void CountdownRing::paintEvent(QPaintEvent*) {
-    drawFaded(*this, opacity_, [this](QPainter& painter) {
-        drawRing(painter, rect(), shownProgress(loop_.now()), value_.label, appearanceOf(*this));
-    });
+    QPainter painter(this);
+    drawRing(painter, rect(), shownProgress(loop_.now()), value_.label, appearanceOf(*this));
 }
 
 } // namespace quietlark

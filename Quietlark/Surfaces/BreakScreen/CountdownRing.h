@@ -16,9 +16,6 @@ public:
     void setValue(const RingValue& value);
     const RingValue& value() const { return value_; }
 
-    /// From 0 to 1.
-    void setOpacity(double opacity);
-
     /// What is drawn at that time, 0 to 1.
     double shownProgress(wumble::Date now) const;
 
@@ -35,7 +32,6 @@ private:
     RingValue value_;
     double from_ = 0;
     wumble::Date changedAt_ = wumble::earliestWrittenDate;
-    double opacity_ = 1;
 };
 
 } // namespace quietlark

@@ -1,10 +1,11 @@
 #include "Quietlark/Surfaces/BreakScreen/StickerTag.h"
 
-#include "Quietlark/Surfaces/BreakScreen/FadedLayer.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Sticker.h"
 #include "Quietlark/Theme/Symbol.h"
 #include "Quietlark/Theme/TextLayout.h"
+
+#include <QPainter>
 
 #include <algorithm>
 #include <array>
@@ -14,9 +15,8 @@ namespace quietlark {
 
 namespace {
 
-constexpr int margin = 10;            ///< for the swing past its size
-constexpr double smallest = 0.6;      ///< of its size, as it begins to land
-constexpr double appearsWithin = 0.3; ///< of the landing
+constexpr int margin = 10;       ///< for the swing past its size
+constexpr double smallest = 0.3; ///< of its size, as it begins to land
 constexpr double largeHeight = 28;
 constexpr double regularHeight = 20;
 constexpr double largePadding = 12;
@@ -56,10 +56,9 @@ Surface tagFill(int step) {
 
 Landing::Landing(QWidget* parent) : QWidget(parent) {}
 
-void Landing::setLanded(double landed, double opacity) {
-    if (landed_ != landed || opacity_ != opacity) {
+void Landing::setLanded(double landed) {
+    if (landed_ != landed) {
         landed_ = landed;
-        opacity_ = opacity;
         update();
     }
 }
@@ -69,16 +68,16 @@ void Landing::setTilt(double degrees) { tilt_ = degrees; }
 QSize Landing::sizeHint() const { return thingSize().toSize() + QSize(2 * margin, 2 * margin); }
 
 void Landing::paintEvent(QPaintEvent*) {
-    const double opacity = opacity_ * std::clamp(landed_ / appearsWithin, 0.0, 1.0);
-    drawFaded(*this, opacity, [this](QPainter& painter) {
-        const double scale = smallest + (1 - smallest) * landed_;
-        const QPointF middle = QRectF(rect()).center();
-        painter.translate(middle);
-        painter.rotate(tilt_);
-        painter.scale(scale, scale);
-        const QSizeF size = thingSize();
-        drawThing(painter, {QPointF(-size.width() / 2, -size.height() / 2), size});
-    });
+    if (landed_ <= 0) {
+        return;
+    }
+    QPainter painter(this);
+    const double scale = smallest + (1 - smallest) * landed_;
+    painter.translate(QRectF(rect()).center());
+    painter.rotate(tilt_);
+    painter.scale(scale, scale);
+    const QSizeF size = thingSize();
+    drawThing(painter, {QPointF(-size.width() / 2, -size.height() / 2), size});
 }
 
 void StickerTag::setText(const QString& text, Surface fill) {

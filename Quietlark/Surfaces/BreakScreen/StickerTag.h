@@ -12,8 +12,8 @@ class Landing : public QWidget {
 public:
     explicit Landing(QWidget* parent);
 
-    /// 1: at rest. `opacity` from 0 to 1 on top of that.
-    void setLanded(double landed, double opacity);
+    /// 0: not there yet, 1: at rest.
+    void setLanded(double landed);
 
     /// Degrees by which it lies askew.
     void setTilt(double degrees);
@@ -28,7 +28,6 @@ protected:
 
 private:
     double landed_ = 1;
-    double opacity_ = 1;
     double tilt_ = 0;
 };
 

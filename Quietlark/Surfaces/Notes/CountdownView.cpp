@@ -6,6 +6,7 @@
 #include "Quietlark/Theme/Sticker.h"
 #include "WumbleCore/Motion/MotionTokens.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -94,16 +95,16 @@ void drawLines(QPainter& painter, const HeadsUpWords::Pill& words, double width,
 
 } // namespace
 
-CountdownView::CountdownView(const AppState& state, const MainLoop& loop, const Appearance& appearance,
+CountdownView::CountdownView(const AppState& state, MainLoop& loop, const Appearance& appearance,
                              std::shared_ptr<const ObservedPresence> presence)
     : state_(state), loop_(loop), presence_(std::move(presence)),
       width_(wordsLeft + wordsWidth(state, appearance) + wordsRight),
       pet_(*this, state.today.value(), loop, {8, 8, pet, pet}, {0, 0, petRoom, petRoom}),
-      frames_(loop, [this](double) { turn(); }) {
+      refreshing_(loop, [this] { refresh(); }), frames_(loop, [this](double) { turn(); }) {
     resize(QSizeF(width_, height).toSize());
     pet_.view().setPokable(false);
     const auto follows = [&](const auto&... fields) {
-        (observers_.emplace_back(observe(fields, [this] { refresh(); })), ...);
+        (observers_.emplace_back(observe(fields, [this] { refreshing_.ask(); })), ...);
     };
     follows(state.secondsUntilBreak, state.upcomingKind, state.hold, state.typingHoldEnds, state.now,
             state.dragging, state.typingNow, state.detectorStatus);
@@ -146,7 +147,7 @@ double CountdownView::turned() const {
     return reducesMotion() ? calmTurning.value(elapsed - calmTurnDelay) : turning.value(elapsed);
 }
 
-void CountdownView::paintEvent(QPaintEvent*) {
+void CountdownView::paintEvent(QPaintEvent* event) {
     constexpr double rise = 6; ///< points that the lines come up
     const auto appearance = appearanceOf(*this);
     pet_.view().setAppearance(appearance);
@@ -160,6 +161,9 @@ void CountdownView::paintEvent(QPaintEvent*) {
     painter.setBrush(between(fill(before_), fill(words_), share));
     const QRectF pill = QRectF(0, 0, width_, height).adjusted(1, 1, -1, -1);
     painter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
+    if (isLeftOf(wordsLeft, *event)) {
+        return;
+    }
     const double moved = reducesMotion() ? 0 : rise * (1 - share);
     if (share < 0.5) {
         painter.setOpacity(1 - 2 * share);

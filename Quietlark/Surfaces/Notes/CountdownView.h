@@ -4,6 +4,7 @@
 #include "Quietlark/Surfaces/Notes/Card.h"
 #include "Quietlark/Surfaces/Notes/HeadsUpWords.h"
 #include "Quietlark/Surfaces/Notes/NoteFace.h"
+#include "Quietlark/Surfaces/Notes/RefreshSoon.h"
 
 #include <QWidget>
 
@@ -19,7 +20,7 @@ public:
     static constexpr double height = 56;
 
     /// Once the note leaves, it stays as it is.
-    CountdownView(const AppState& state, const MainLoop& loop, const Appearance& appearance,
+    CountdownView(const AppState& state, MainLoop& loop, const Appearance& appearance,
                   std::shared_ptr<const ObservedPresence> presence);
 
     /// Wide enough for all that it may come to say.
@@ -45,6 +46,7 @@ private:
     HeadsUpWords::Pill before_; ///< what it said before it turned
     wumble::Date turnedAt_;
     bool typedAlong_ = false; ///< the person has worked on while the pill was there
+    RefreshSoon refreshing_;
     FrameTicker frames_;
     std::vector<QPropertyNotifier> observers_;
 };

@@ -6,6 +6,7 @@
 #include "Quietlark/Theme/Controls/StickerButton.h"
 #include "WumbleCore/Life/WumblePersonality.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -52,9 +53,10 @@ double lineHeight(const TextStyle& style, const Appearance& appearance) {
 } // namespace
 
 HeadsUpView::HeadsUpView(const AppState& state, std::function<HeadsUpWords::Choices()> choices,
-                         const MainLoop& loop, Followed followed)
+                         MainLoop& loop, Followed followed)
     : state_(state), choices_(std::move(choices)), loop_(loop), followed_(std::move(followed)),
-      pet_(*this, state.today.value(), loop, petPlace, petRoom), frames_(loop, [this](double) { morph(); }) {
+      pet_(*this, state.today.value(), loop, petPlace, petRoom), refreshing_(loop, [this] { refresh(); }),
+      frames_(loop, [this](double) { morph(); }) {
     resize(cardSize.toSize());
     new PointerHover(*this, [this](bool inside) { onHover(inside); });
     follow();
@@ -66,11 +68,11 @@ HeadsUpView::~HeadsUpView() = default;
 
 void HeadsUpView::follow() {
     const auto follows = [this](const auto&... fields) {
-        (observers_.emplace_back(observe(fields, [this] { refresh(); })), ...);
+        (observers_.emplace_back(observe(fields, [this] { refreshing_.ask(); })), ...);
     };
     follows(state_.secondsUntilBreak, state_.upcomingKind, state_.hold, state_.dragging,
             state_.detectorStatus, state_.breatherAfter, state_.ignoringSmartPause, state_.rawSmartActivity,
-            state_.snoozesRemaining, state_.canSnooze, state_.now, state_.today);
+            state_.snoozesRemaining, state_.canSnooze, state_.settings, state_.now, state_.today);
     observers_.emplace_back(observe(*followed_.hello, [this] { greet(); }));
     observers_.emplace_back(observe(*followed_.answer, [this] { turnIntoAnswer(); }));
 }
@@ -185,7 +187,7 @@ void HeadsUpView::morph() {
     update();
 }
 
-void HeadsUpView::paintEvent(QPaintEvent*) {
+void HeadsUpView::paintEvent(QPaintEvent* event) {
     const auto appearance = appearanceOf(*this);
     pet_.view().setAppearance(appearance);
     if (placedFor_ != appearance) {
@@ -194,6 +196,9 @@ void HeadsUpView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     drawNoteCard(painter, cardPlace, Surface::wumbleTile, tile, appearance);
+    if (isLeftOf(wordsLeft, *event)) {
+        return;
+    }
     const double progress = morphed();
     const double rise = appearance.reduceMotion ? 0 : morphRise;
     if (progress < 0.5) {

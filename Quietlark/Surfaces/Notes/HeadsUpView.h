@@ -5,6 +5,7 @@
 #include "Quietlark/Surfaces/Notes/HeadsUpAnswer.h"
 #include "Quietlark/Surfaces/Notes/HeadsUpWords.h"
 #include "Quietlark/Surfaces/Notes/NoteFace.h"
+#include "Quietlark/Surfaces/Notes/RefreshSoon.h"
 
 #include <QWidget>
 
@@ -31,7 +32,7 @@ public:
     };
 
     /// `choices` says what the person may do; it is asked whenever the state changes.
-    HeadsUpView(const AppState& state, std::function<HeadsUpWords::Choices()> choices, const MainLoop& loop,
+    HeadsUpView(const AppState& state, std::function<HeadsUpWords::Choices()> choices, MainLoop& loop,
                 Followed followed);
     ~HeadsUpView() override;
 
@@ -73,6 +74,7 @@ private:
     NotePet pet_;
     std::vector<StickerButton*> buttons_;
     std::optional<Appearance> placedFor_; ///< that the buttons have their size for
+    RefreshSoon refreshing_;
     FrameTicker frames_;
     std::vector<QPropertyNotifier> observers_;
 };

@@ -2,6 +2,7 @@
 
 #include "Quietlark/Theme/Sticker.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -20,8 +21,6 @@ constexpr double smallestText = 0.7;
 constexpr double smallestWhole = 0.9;  ///< rather than any smaller, words are cut off
 constexpr double smallestTitle = 0.75; ///< in parts of the size that the words below it would have it
 constexpr double rounding = 1e-6;
-
-const TextStyle titleStyle{.token = TypeToken::title};
 
 /// Whether it is there to its end: one line more would change nothing.
 bool isWhole(const QString& text, const TextStyle& style, double width, const Appearance& appearance) {
@@ -70,18 +69,19 @@ void drawNoteCard(QPainter& painter, const QRectF& rect, Surface tile, double ti
     painter.restore();
 }
 
+bool isLeftOf(double words, const QPaintEvent& event) { return event.rect().right() < words; }
+
 NoteWords::NoteWords(const QString& title, const QString& subtitle, QSizeF room, const Appearance& appearance)
     : title_(title), subtitle_(subtitle), room_(room), titleLook_(appearance),
-      subtitleLook_(appearance), subtitleStyle_{.token = TypeToken::callout,
-                                                .ink = Role::textMuted,
-                                                .mostLines = 2},
+      subtitleLook_(appearance), titleStyle_{.token = TypeToken::title, .balanced = true},
+      subtitleStyle_{.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 2},
       gap_(subtitle.isEmpty() ? 0 : wordsGap) {
     if (!fitWhole(appearance.textScale)) {
         cutOff(appearance.textScale);
     }
 }
 
-/// A title rather becomes a little smaller than the words below it.
+/// A title rather becomes a little smaller, or takes two lines, than the words below it become small.
 bool NoteWords::fitWhole(double wanted) {
     for (double size = wanted; size >= std::min(wanted, smallestWhole) - rounding; size -= textStep) {
         for (double share = 1; share >= smallestTitle - rounding; share -= textStep) {
@@ -89,13 +89,18 @@ bool NoteWords::fitWhole(double wanted) {
                 return true;
             }
         }
+        titleStyle_.mostLines = 2;
+        if (setWhole({.title = size * smallestTitle, .subtitle = size})) {
+            return true;
+        }
+        titleStyle_.mostLines = 1;
     }
     return false;
 }
 
 bool NoteWords::setWhole(const Sizes& sizes) {
     measure(sizes);
-    return isWhole(title_, titleStyle, room_.width(), titleLook_) &&
+    return isWhole(title_, titleStyle_, room_.width(), titleLook_) &&
            isWhole(subtitle_, subtitleStyle_, room_.width(), subtitleLook_) && height() <= room_.height();
 }
 
@@ -115,13 +120,13 @@ void NoteWords::measure(const Sizes& sizes) {
     const auto heightOf = [&](const QString& text, const TextStyle& style, const Appearance& look) {
         return text.isEmpty() ? 0 : measureText(text, style, room_.width(), look).height();
     };
-    titleHeight_ = heightOf(title_, titleStyle, titleLook_);
+    titleHeight_ = heightOf(title_, titleStyle_, titleLook_);
     subtitleHeight_ = heightOf(subtitle_, subtitleStyle_, subtitleLook_);
 }
 
 void NoteWords::draw(QPainter& painter, const QRectF& rect) const {
     const double top = rect.top() + std::max(rect.height() - height(), 0.0) / 2;
-    drawText(painter, {rect.left(), top, rect.width(), titleHeight_}, title_, titleStyle, titleLook_);
+    drawText(painter, {rect.left(), top, rect.width(), titleHeight_}, title_, titleStyle_, titleLook_);
     if (!subtitle_.isEmpty()) {
         drawText(painter, {rect.left(), top + titleHeight_ + gap_, rect.width(), subtitleHeight_}, subtitle_,
                  subtitleStyle_, subtitleLook_);

@@ -13,6 +13,7 @@
 #include <optional>
 
 class QPainter;
+class QPaintEvent;
 
 /// What all notes have in common to look at: a sticker, a pet on its tile at the left, and words beside it.
 namespace quietlark {
@@ -37,6 +38,9 @@ private:
 /// The card without its shadow, with a tile of that fill over `tileWidth` points at its left; 0: no tile.
 void drawNoteCard(QPainter& painter, const QRectF& rect, Surface tile, double tileWidth,
                   const Appearance& appearance);
+
+/// Whether only what stands left of there is to be drawn: a pet that moves doesn't have the words set anew.
+bool isLeftOf(double words, const QPaintEvent& event);
 
 /// A title and what it comes with, as large as they fit whole; cut off only when they don't even when small.
 class NoteWords {
@@ -66,6 +70,7 @@ private:
     QSizeF room_;
     Appearance titleLook_;
     Appearance subtitleLook_;
+    TextStyle titleStyle_;
     TextStyle subtitleStyle_;
     double titleHeight_ = 0;
     double subtitleHeight_ = 0;

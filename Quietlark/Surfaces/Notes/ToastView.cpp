@@ -6,6 +6,7 @@
 #include "Quietlark/Theme/Symbol.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <utility>
@@ -73,13 +74,16 @@ void ToastView::addCloseControl() {
     connect(close, &QAbstractButton::clicked, this, [this] { onClose(); });
 }
 
-void ToastView::paintEvent(QPaintEvent*) {
+void ToastView::paintEvent(QPaintEvent* event) {
     const auto appearance = appearanceOf(*this);
     pet_->view().setAppearance(appearance);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     drawNoteCard(painter, QRectF({}, noteSize()), tileOf(toast_.mood), tile, appearance);
     const QRectF place = words(toast_, height_);
+    if (isLeftOf(place.left(), *event)) {
+        return;
+    }
     wordsOf(toast_, place.size(), appearance).draw(painter, place);
     if (toast_.action) {
         const QRectF mark(place.right() + (chevronRoom - chevron) / 2, (height_ - chevron) / 2, chevron,

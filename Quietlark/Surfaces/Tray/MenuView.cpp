@@ -42,6 +42,10 @@ QString text(std::string_view words) {
 /// Larger letters want a wider card, but not as much wider as they are larger.
 double widthShare(double textScale) { return 1 + (textScale - 1) * 0.6; }
 
+QRectF cardWithin(const QRectF& whole) {
+    return whole.adjusted(edge, edge, -edge - Lift::floating, -edge - Lift::floating);
+}
+
 /// Layouts keep the heights that they worked out until the event loop comes round.
 void invalidateLayouts(const QWidget& root) {
     for (const QWidget* inside : root.findChildren<QWidget*>()) {
@@ -184,6 +188,13 @@ QSize MenuView::sizeHint() const {
     return {width + around.left() + around.right(), height + around.top() + around.bottom()};
 }
 
+QRegion MenuView::outline(QSizeF size) {
+    QPainterPath face;
+    face.addRoundedRect(cardWithin({QPointF(), size}), Radius::large, Radius::large);
+    const QPainterPath both = face.united(face.translated(Lift::floating, Lift::floating));
+    return QRegion(both.toFillPolygon().toPolygon());
+}
+
 void MenuView::takeKeyboard() {
     page_->setFocus(Qt::TabFocusReason);
     focusNextPrevChild(true);
@@ -201,7 +212,7 @@ void MenuView::keyPressEvent(QKeyEvent* event) {
 void MenuView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF card = QRectF(rect()).adjusted(edge, edge, -edge - Lift::floating, -edge - Lift::floating);
+    const QRectF card = cardWithin(rect());
     const Appearance look = appearanceOf(*this);
     drawSticker(painter, card, {.fill = Surface::paper, .radius = Radius::large, .lift = Lift::floating},
                 look);

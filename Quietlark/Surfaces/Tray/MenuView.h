@@ -3,6 +3,7 @@
 #include "Quietlark/Surfaces/SurfaceContext.h"
 #include "Quietlark/Surfaces/Tray/TrayActions.h"
 
+#include <QRegion>
 #include <QWidget>
 
 #include <functional>
@@ -39,6 +40,9 @@ public:
     std::function<void()> wantsOtherSize = [] {};
 
     QSize sizeHint() const override;
+
+    /// The card and its shadow at that size.
+    static QRegion outline(QSizeF size);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,6 +1,6 @@
 #include "Quietlark/Surfaces/Tray/StatusItemController.h"
 
-#include "Quietlark/Model/StatusLine.h"
+#include "Quietlark/Surfaces/FloatingPanel.h"
 #include "Quietlark/Surfaces/Tray/MenuView.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 
@@ -104,16 +104,23 @@ void StatusItemController::toggle(std::optional<QPointF> told) {
         return;
     }
     const bool isTheSameClick = context_.loop.uptime() - closedFromOutsideAt_ < reopenGuard;
-    if (!isTheSameClick && !context_.host.screens().empty()) {
-        open(place(told));
+    if (isTheSameClick) {
+        return;
+    }
+    if (const auto beside = place(told)) {
+        open(*beside);
     }
 }
 
-PopoverPlace::Anchor StatusItemController::place(std::optional<QPointF> told) const {
-    const auto screens = context_.host.screens();
-    const auto pointer = context_.host.pointer();
-    const auto clicked = tray_.isShown() ? PopoverPlace::anchor(told, pointer, screens) : std::nullopt;
-    return clicked.value_or(PopoverPlace::corner(screens.front()));
+std::optional<PopoverPlace::Anchor> StatusItemController::place(std::optional<QPointF> told) const {
+    const SurfaceHost& host = context_.host;
+    if (tray_.isShown()) {
+        if (const auto clicked = PopoverPlace::anchor(told, host.pointer(), host.screens())) {
+            return clicked;
+        }
+    }
+    const auto screen = workingScreen(context_);
+    return screen ? std::optional(PopoverPlace::corner(*screen)) : std::nullopt;
 }
 
 void StatusItemController::open(const PopoverPlace::Anchor& anchor) {
@@ -142,7 +149,9 @@ void StatusItemController::open(const PopoverPlace::Anchor& anchor) {
 void StatusItemController::fit() {
     if (popover_) {
         const QSizeF wanted = popover_->view->sizeHint();
-        popover_->surface->setFrame(PopoverPlace::frame(popover_->anchor, wanted));
+        const QRectF frame = PopoverPlace::frame(popover_->anchor, wanted);
+        popover_->surface->setFrame(frame);
+        popover_->surface->setOutline(MenuView::outline(frame.size()));
     }
 }
 

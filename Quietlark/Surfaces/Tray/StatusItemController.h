@@ -35,7 +35,8 @@ private:
     void refreshPicture();
     void refreshMenu();
     bool isPanelDark() const;
-    PopoverPlace::Anchor place(std::optional<QPointF> told) const;
+    /// Absent where there is no screen.
+    std::optional<PopoverPlace::Anchor> place(std::optional<QPointF> told) const;
     void open(const PopoverPlace::Anchor& anchor);
     void fit();
 

@@ -137,6 +137,17 @@ TEST_F(WithWork, aLockScreenCanTakeTheKeyboardWhenAskedFor) {
     EXPECT_TRUE(viewOf(*surface).keys.empty());
 }
 
+TEST_F(WithWork, aLockScreenThatComesByItselfFindsTheKeyboardFreeOnceNobodyTypes) {
+    const auto surface = show(leftScreen, breakScreen);
+    Bystander lock(rightScreen, Manager::passed, green);
+    lock.map();
+    EXPECT_TRUE(lab::spinUntil([&] { return lock.grabKeyboard(); }));
+    lock.ungrabKeyboard();
+    press("h");
+    EXPECT_TRUE(lab::spinUntil([&] { return viewOf(*surface).typed == "h"; })) << "by the focus";
+    EXPECT_TRUE(lab::spinUntil([&] { return !lock.grabKeyboard(); })) << "and held again";
+}
+
 TEST_F(WithWork, aSurfaceMayBeDestroyedByItsOwnButton) {
     std::unique_ptr<HostedSurface> surface;
     auto button = std::make_unique<QPushButton>(QStringLiteral("Close"));

@@ -93,12 +93,11 @@ TEST_F(OnScreenTest, aSecondCopyIsAnsweredByTheFirst) {
     const Environment session = bus.asSession();
     home->remember(wumble::WumbleSettings());
     const auto program = home->start({}, session);
-    ASSERT_TRUE(spinUntil([&] { return std::filesystem::exists(home->data() / "wumble.json"); }));
-    EXPECT_TRUE(spinUntil([&] {
-        home->start({}, session)->wait();
-        return isUp("toast");
-    }));
-    EXPECT_EQ(program->wait(0), std::nullopt);
+    ASSERT_TRUE(comes("toast")) << "the day is greeted";
+    ASSERT_TRUE(goes("toast"));
+    EXPECT_EQ(home->start({}, session)->wait(), 0);
+    EXPECT_TRUE(comes("toast", 5));
+    EXPECT_EQ(program->wait(0), std::nullopt) << home->errors();
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "tests/support/TemporaryFolder.h"
 
 #include <QImage>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace quietlark {
@@ -14,19 +15,27 @@ bool canBeUsed(const std::filesystem::path& file) {
                                       : !QImage(QString::fromStdString(file.string())).isNull();
 }
 
-TEST(Renderers, everyOptionFillsItsFolder) {
+class EachRenderer : public testing::TestWithParam<Renderer> {};
+
+TEST_P(EachRenderer, fillsItsFolder) {
     const wumble::test::TemporaryFolder folder;
-    for (const auto& renderer : renderers()) {
-        const auto target = folder.path() / renderer.option.substr(2);
-        ASSERT_EQ(runRenderer(renderer.option, target, {.dark = true}), 0) << renderer.option;
-        int written = 0;
-        for (const auto& file : std::filesystem::directory_iterator(target)) {
-            EXPECT_TRUE(canBeUsed(file)) << file.path();
-            ++written;
-        }
-        EXPECT_GT(written, 0) << renderer.option;
+    ASSERT_EQ(runRenderer(GetParam().option, folder.path(), {.dark = true}), 0);
+    int written = 0;
+    for (const auto& file : std::filesystem::recursive_directory_iterator(folder.path())) {
+        EXPECT_TRUE(file.is_directory() || canBeUsed(file)) << file.path();
+        ++written;
     }
+    EXPECT_GT(written, 0);
 }
+
+std::string nameOf(const testing::TestParamInfo<Renderer>& renderer) {
+    std::string name(renderer.param.option.substr(2));
+    std::ranges::replace(name, '-', '_');
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Renderers, EachRenderer, testing::ValuesIn(renderers().begin(), renderers().end()),
+                         nameOf);
 
 TEST(Renderers, aFolderThatCannotBeMadeIsTold) {
     const wumble::test::TemporaryFolder folder;

@@ -101,6 +101,20 @@ TEST_F(HeadsUpControllerTest, startingTheBreakSendsTheCardAway) {
     EXPECT_TRUE(host.surfaces().empty());
 }
 
+TEST_F(HeadsUpControllerTest, whatLeavesKeepsItsWords) {
+    driver.model().update([](auto& settings) { settings.allowSkipInAdvance = true; });
+    for (const char* press : {"Skip", "Break now"}) {
+        RecordedSurface& card = awaitCard();
+        const auto said = words(card);
+        ASSERT_NE(button(card, press), nullptr) << press;
+        button(card, press)->click();
+        driver.loop.advance(0.3);
+        EXPECT_TRUE(isLeaving(card)) << press;
+        EXPECT_EQ(words(card), said) << "and doesn't tell of the break after";
+        driver.loop.advance(0.2);
+    }
+}
+
 TEST_F(HeadsUpControllerTest, withoutACardThereIsNothingToAnswerOrHide) {
     controller.answer(wumble::Toast::snoozed(300));
     controller.hide();

@@ -1,7 +1,8 @@
 #include "Quietlark/Surfaces/Nudges/NudgeGeometry.h"
 
-#include "WumbleCore/Motion/Choreography.h"
+#include "Quietlark/Theme/Sizes.h"
 
+#include <QPainterPath>
 #include <gtest/gtest.h>
 
 namespace quietlark {
@@ -79,8 +80,10 @@ TEST(NudgeGeometry, aHangingCardStaysInItsPanel) {
     for (const double scale : {0.85, 1.0, 1.2}) {
         const QRectF card = NudgeGeometry::card(scale, NudgeSpot::higher, laptopFree);
         const auto panel = NudgeGeometry::panel(card, scale, NoteEntrance::hang, laptop);
+        QPainterPath rounded;
+        rounded.addRoundedRect(panel.card, Radius::card * scale, Radius::card * scale);
         for (double elapsed = 0; elapsed < 6; elapsed += 0.01) {
-            const QRectF seen = NudgeGeometry::swing(panel.card, scale, elapsed).mapRect(panel.card);
+            const QRectF seen = NudgeGeometry::swing(panel.card, scale, elapsed).map(rounded).boundingRect();
             const QRectF inside({}, panel.frame.size());
             ASSERT_TRUE(inside.adjusted(0, 0, 0.5, 0.5).contains(seen.adjusted(0, 0, shadow, shadow)))
                 << scale << " at " << elapsed << ": " << seen.right() << ", " << seen.bottom() << " of "

@@ -100,6 +100,7 @@ TEST_F(StatusItemControllerTest, aClickOpensThePopoverBesideItAndTheNextOneClose
     EXPECT_TRUE(RecordingSurfaceHost::laptop().visibleFrame.contains(popover()->frame()));
     EXPECT_NEAR(popover()->frame().center().x(), onThePanel.x(), 1);
     EXPECT_LT(popover()->frame().top(), 50);
+    EXPECT_NEAR(popover()->outline.boundingRect().height(), popover()->frame().height(), 8);
     click();
     EXPECT_EQ(popover(), nullptr);
     EXPECT_FALSE(controller.isPopoverShown());

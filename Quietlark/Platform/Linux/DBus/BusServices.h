@@ -4,12 +4,12 @@
 #include "Quietlark/Platform/Announcer.h"
 #include "Quietlark/Platform/CopyNotice.h"
 #include "Quietlark/Platform/DesktopLook.h"
+#include "Quietlark/Platform/Linux/DBus/StatusNotifierItem.h"
 #include "Quietlark/Platform/Linux/Proc/AppIdentity.h"
 #include "Quietlark/Platform/ScreenLock.h"
 #include "Quietlark/Platform/SessionWatch.h"
 #include "Quietlark/Platform/SleepAssertion.h"
 #include "Quietlark/Platform/SleepHolders.h"
-#include "Quietlark/Platform/TrayItem.h"
 
 #include <functional>
 #include <memory>
@@ -26,7 +26,7 @@ struct BusServices {
     std::unique_ptr<CopyNotice> copyNotice;
     std::unique_ptr<DesktopLookSource> look;
     std::unique_ptr<Announcer> announcer;
-    std::unique_ptr<TrayItem> tray;
+    std::unique_ptr<StatusNotifierItem> tray;
 
     /// Seconds since any input as GNOME's compositor tells them; absent on other desktops.
     std::function<std::optional<double>()> mutterIdle;

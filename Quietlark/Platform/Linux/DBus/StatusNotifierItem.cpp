@@ -71,6 +71,12 @@ void StatusNotifierItem::setHasPanel(bool has) {
     }
 }
 
+/// No panel tells its colours here, but the bar of one desktop is dark whatever the rest of it is.
+std::optional<bool> StatusNotifierItem::isPanelDark() const {
+    const bool isGnome = qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(QLatin1String("GNOME"));
+    return isGnome ? std::optional(true) : std::nullopt;
+}
+
 void StatusNotifierItem::tell(const QString& member, const QVariantList& arguments) {
     QDBusMessage signal =
         QDBusMessage::createSignal(StatusNotifierObject::path(), StatusNotifierObject::interface(), member);

@@ -22,7 +22,7 @@ public:
     /// Called whenever `isShown` changed.
     void observeShown(std::function<void()> changed) { shownChanged_ = std::move(changed); }
 
-    std::optional<bool> isPanelDark() const override { return std::nullopt; }
+    std::optional<bool> isPanelDark() const override;
     void setPictures(std::vector<QImage> pictures) override;
     void setTitle(const std::string& title) override;
     void setLabel(const std::string& label) override;

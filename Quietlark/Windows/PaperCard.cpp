@@ -1,4 +1,4 @@
-#include "Quietlark/Welcome/PaperCard.h"
+#include "Quietlark/Windows/PaperCard.h"
 
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Sticker.h"
