@@ -72,7 +72,8 @@ NoteStage::NoteStage(std::unique_ptr<QWidget> content, std::shared_ptr<ObservedP
     begin();
 }
 
-NoteStage::~NoteStage() = default;
+/// The effect asks the stage where it is until it is gone.
+NoteStage::~NoteStage() { content_->setGraphicsEffect(nullptr); }
 
 void NoteStage::setUnblended(std::function<void(double)> carry) {
     carry_ = std::move(carry);
