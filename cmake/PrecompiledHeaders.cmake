@@ -1,0 +1,9 @@
+# What nearly every source of a target reads, read once: half of the time that a build from nothing takes.
+# precompile(<target> <header>…), headers of the standard library are there always.
+function(precompile target)
+  set(headers ${ARGN})
+  list(TRANSFORM headers REPLACE "^(.+)$" "$<$<COMPILE_LANGUAGE:CXX>:<\\1$<ANGLE-R>>")
+  target_precompile_headers(${target} PRIVATE
+    <algorithm> <array> <filesystem> <functional> <map> <memory> <optional> <string> <utility> <variant> <vector>
+    ${headers})
+endfunction()
