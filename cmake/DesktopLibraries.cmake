@@ -1,5 +1,5 @@
 # Libraries of the application; the core needs none of them.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui Widgets Multimedia)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui Widgets)
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET
