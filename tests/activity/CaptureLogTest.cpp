@@ -1,7 +1,7 @@
 #include "Quietlark/Activity/CaptureLog.h"
 
 #include <atomic>
-#include <future>
+#include <condition_variable>
 #include <gtest/gtest.h>
 
 namespace quietlark {
@@ -20,7 +20,10 @@ struct Script {
     CaptureLogRunner::Ended ended;
     std::atomic<int> launches = 0;
     std::atomic<int> terminations = 0;
-    std::mutex lock; ///< guards the next two
+    std::mutex lock; ///< guards all below
+    std::condition_variable looked;
+    int looks = 0;                ///< back, so far
+    std::optional<int> quietFrom; ///< the look back from which on the past says nothing
     std::optional<std::string> past;
     std::function<void()> whileLookingBack;
 };
@@ -38,7 +41,9 @@ struct ScriptedRunner : CaptureLogRunner {
         if (const auto look = std::exchange(script.whileLookingBack, {})) {
             look();
         }
-        return script.past;
+        ++script.looks;
+        script.looked.notify_all();
+        return script.quietFrom && script.looks >= *script.quietFrom ? std::nullopt : script.past;
     }
     void terminate() override { ++script.terminations; }
     Script& script;
@@ -50,20 +55,27 @@ protected:
         log.setOnChange([this] { ++changes; });
     }
 
-    /// Waits until everything that was given to the log's queue before has been done. The past says nothing to it.
-    void settle() {
-        std::promise<void> done;
-        {
-            const std::lock_guard guard(script.lock);
-            script.whileLookingBack = [&done, this] {
-                script.past.reset();
-                done.set_value();
-            };
-        }
+    void start() {
+        expectedLooks += script.canLaunch ? 1 : 0;
+        log.start();
+    }
+    void lookBackNow() {
+        ++expectedLooks;
         log.lookBackNow();
-        done.get_future().wait();
     }
 
+    /// Waits until everything that was given to the log's queue before has been done. The past says nothing to it.
+    void settle() {
+        {
+            const std::lock_guard guard(script.lock);
+            script.quietFrom = expectedLooks + 1;
+        }
+        lookBackNow();
+        std::unique_lock guard(script.lock);
+        script.looked.wait(guard, [this] { return script.looks == expectedLooks; });
+    }
+
+    int expectedLooks = 0;
     Script script;
     std::atomic<int> changes = 0;
     CaptureLog log{std::make_unique<ScriptedRunner>(script), [] { return wumble::Date{100}; }};
@@ -86,7 +98,7 @@ TEST_F(CaptureLogTest, waitsForTheLookBackAndTakesItsLastWord) {
 }
 
 TEST_F(CaptureLogTest, hearsWholeLinesOnlyAndTellsOfRealChanges) {
-    log.start();
+    start();
     settle();
     const std::string text = line(R"([\"scr:a\"])");
     script.received(text.substr(0, 20));
@@ -101,24 +113,24 @@ TEST_F(CaptureLogTest, hearsWholeLinesOnlyAndTellsOfRealChanges) {
 }
 
 TEST_F(CaptureLogTest, aLiveLineBeatsALookBack) {
-    log.start();
+    start();
     settle();
     script.received(line(R"([\"scr:live\"])"));
     script.past = line(R"([\"scr:past\"])");
-    log.lookBackNow();
+    lookBackNow();
     settle();
     EXPECT_EQ(log.latest(), Names{"live"});
 }
 
 TEST_F(CaptureLogTest, aStreamThatCannotBeginIsNotTriedAgainAtOnceAndStoppingEndsIt) {
     script.canLaunch = false;
-    log.start();
-    log.start();
+    start();
+    start();
     settle();
     EXPECT_EQ(script.launches, 2);
     EXPECT_EQ(log.latest(), std::nullopt);
     log.stop();
-    log.start();
+    start();
     settle();
     EXPECT_EQ(script.launches, 2);
     EXPECT_EQ(script.terminations, 1);
