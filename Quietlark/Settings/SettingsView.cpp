@@ -86,8 +86,10 @@ QWidget* SettingsView::general() {
         column->addWidget(loginRow());
     }
     column->addWidget(appearanceRow());
-    column->addWidget(soundsRow());
     column->addWidget(volumeRow());
+    column->addWidget(new TextBlock(text(SettingsWords::whatSounds),
+                                    {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 2}));
+    column->addWidget(soundsRow());
     return card;
 }
 
@@ -98,11 +100,13 @@ QWidget* SettingsView::row(const SettingsWords::Row& words, QWidget* control) {
     layout->setSpacing(12);
     auto* said = new QVBoxLayout;
     said->setSpacing(1);
+    said->addStretch(1);
     said->addWidget(new TextBlock(text(words.title), {.mostLines = 2, .weight = QFont::DemiBold}));
     if (!words.detail.empty()) {
         said->addWidget(new TextBlock(text(words.detail),
                                       {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 3}));
     }
+    said->addStretch(1);
     layout->addLayout(said, 1);
     control->setAccessibleName(text(words.title));
     layout->addWidget(control);

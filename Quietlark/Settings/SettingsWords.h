@@ -22,6 +22,7 @@ inline constexpr Row nudges{"Nudges between breaks", "Blink, sit up, breathe."};
 
 inline constexpr Row login{"Open Quietlark when I log in"};
 inline constexpr Row appearance{"Appearance", "The break screen is dark in all three."};
+inline constexpr std::string_view whatSounds = "What makes a sound";
 inline constexpr Row sounds{"A break starting and ending"};
 inline constexpr Row volume{"Volume", "All the way down for silence."};
 
