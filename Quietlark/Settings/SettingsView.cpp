@@ -1,16 +1,12 @@
 #include "Quietlark/Settings/SettingsView.h"
 
 #include "Quietlark/Surfaces/TextBlock.h"
-#include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Controls/Segments.h"
 #include "Quietlark/Theme/Controls/StickerSlider.h"
 #include "Quietlark/Theme/Controls/StickerSwitch.h"
-#include "Quietlark/Theme/Sticker.h"
+#include "Quietlark/Windows/Choices.h"
 #include "Quietlark/Windows/PaperCard.h"
-#include "WumbleCore/Words/Format.h"
 
-#include <QHBoxLayout>
-#include <QPainter>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -35,22 +31,14 @@ QString text(std::string_view words) {
     return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
 }
 
-QStringList durations(const std::vector<double>& choices) {
-    QStringList words;
-    for (const double seconds : choices) {
-        words.append(QString::fromStdString(wumble::Format::duration(seconds)));
-    }
-    return words;
-}
-
-template <class Choices, class Value> int placeOf(const Choices& choices, const Value& value) {
-    return static_cast<int>(std::ranges::find(choices, value) - std::ranges::begin(choices));
+QWidget* row(const SettingsWords::Row& words, QWidget* control) {
+    return paperRow(words.title, words.detail, control);
 }
 
 } // namespace
 
 SettingsView::SettingsView(AppModel& model, LoginItem* loginItem, QWidget* parent)
-    : QWidget(parent), model_(model), loginItem_(loginItem) {
+    : PaperView(usualWidth, parent), model_(model), loginItem_(loginItem) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(edge, edge, edge, edge);
     column->setSpacing(groupGap);
@@ -91,26 +79,6 @@ QWidget* SettingsView::general() {
                                     {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 2}));
     column->addWidget(soundsRow());
     return card;
-}
-
-QWidget* SettingsView::row(const SettingsWords::Row& words, QWidget* control) {
-    auto* whole = new QWidget;
-    auto* layout = new QHBoxLayout(whole);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(12);
-    auto* said = new QVBoxLayout;
-    said->setSpacing(1);
-    said->addStretch(1);
-    said->addWidget(new TextBlock(text(words.title), {.mostLines = 2, .weight = QFont::DemiBold}));
-    if (!words.detail.empty()) {
-        said->addWidget(new TextBlock(text(words.detail),
-                                      {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 3}));
-    }
-    said->addStretch(1);
-    layout->addLayout(said, 1);
-    control->setAccessibleName(text(words.title));
-    layout->addWidget(control);
-    return whole;
 }
 
 QWidget* SettingsView::numberRow(const SettingsWords::Row& words, std::vector<double> choices,
@@ -234,19 +202,6 @@ void SettingsView::refresh() {
         loginError_->setVisible(error.has_value());
     }
     wantsOtherSize();
-}
-
-QSize SettingsView::sizeHint() const {
-    const double share = 1 + (appearanceOf(*this).textScale - 1) * 0.7;
-    const int width =
-        std::max(static_cast<int>(std::lround(usualWidth * share)), layout()->minimumSize().width());
-    return {width, layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
-                                                 : layout()->sizeHint().height()};
-}
-
-void SettingsView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    drawStickerBackground(painter, rect(), appearanceOf(*this));
 }
 
 } // namespace quietlark

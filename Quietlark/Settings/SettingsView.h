@@ -2,8 +2,7 @@
 
 #include "Quietlark/Model/AppModel.h"
 #include "Quietlark/Settings/SettingsWords.h"
-
-#include <QWidget>
+#include "Quietlark/Windows/PaperView.h"
 
 #include <functional>
 #include <vector>
@@ -15,23 +14,14 @@ class StickerSwitch;
 class TextBlock;
 
 /// The choices of the person, each in force and kept as soon as it is made.
-class SettingsView : public QWidget {
+class SettingsView : public PaperView {
 public:
     /// Both must outlive it; the login item may be missing, and its row with it.
     SettingsView(AppModel& model, LoginItem* loginItem, QWidget* parent = nullptr);
 
-    /// Called when `sizeHint` has become another.
-    std::function<void()> wantsOtherSize = [] {};
-
-    QSize sizeHint() const override;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
 private:
     QWidget* breaks();
     QWidget* general();
-    QWidget* row(const SettingsWords::Row& words, QWidget* control);
 
     /// A row of choices of a number; what the settings have is among them.
     QWidget* numberRow(const SettingsWords::Row& words, std::vector<double> choices,

@@ -7,17 +7,12 @@
 #include "Quietlark/Theme/Controls/Segments.h"
 #include "Quietlark/Theme/Controls/StickerButton.h"
 #include "Quietlark/Theme/Controls/StickerSwitch.h"
-#include "Quietlark/Theme/Sticker.h"
+#include "Quietlark/Windows/Choices.h"
 #include "Quietlark/Windows/PaperCard.h"
-#include "WumbleCore/Words/Format.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QPainter>
 #include <QVBoxLayout>
-
-#include <algorithm>
-#include <cmath>
 
 namespace quietlark {
 
@@ -40,28 +35,20 @@ template <class Layout> Layout* bare(QWidget* widget, int spacing = 0) {
     return layout;
 }
 
-QStringList durations(const std::vector<double>& choices) {
-    QStringList words;
-    for (const double seconds : choices) {
-        words.append(QString::fromStdString(wumble::Format::duration(seconds)));
-    }
-    return words;
-}
-
-template <class Choices, class Value> int placeOf(const Choices& choices, const Value& value) {
-    return static_cast<int>(std::ranges::find(choices, value) - choices.begin());
+QWidget* detailRow(const WelcomeWords::Row& row, QWidget* control) {
+    return paperRow(row.title, row.detail, control);
 }
 
 TextBlock* words(std::string_view said, const TextStyle& style) { return new TextBlock(text(said), style); }
 
 const TextStyle strong = {.mostLines = 2, .weight = QFont::DemiBold};
-const TextStyle remark = {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 3};
 const TextStyle summary = {.token = TypeToken::body, .ink = Role::textMuted, .mostLines = 3};
 
 } // namespace
 
 WelcomeView::WelcomeView(AppModel& model, LoginItem* loginItem, QWidget* parent)
-    : QWidget(parent), model_(model), loginItem_(loginItem), form_(model.state().settings.value()) {
+    : PaperView(usualWidth, parent), model_(model), loginItem_(loginItem),
+      form_(model.state().settings.value()) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(edge, edge, edge, edge);
     column->setSpacing(groupGap);
@@ -138,19 +125,6 @@ QWidget* WelcomeView::details() {
     return rows;
 }
 
-QWidget* WelcomeView::detailRow(const WelcomeWords::Row& row, Segments* choices) {
-    auto* whole = new QWidget;
-    auto* layout = bare<QHBoxLayout>(whole, 12);
-    auto* said = new QVBoxLayout;
-    said->setSpacing(1);
-    said->addWidget(words(row.title, strong));
-    said->addWidget(words(row.detail, remark));
-    layout->addLayout(said, 1);
-    choices->setAccessibleName(text(row.title));
-    layout->addWidget(choices);
-    return whole;
-}
-
 Segments* WelcomeView::lengths(const std::vector<double>& choices, double current,
                                void (WelcomeForm::*choose)(double)) {
     auto* made = new Segments;
@@ -176,20 +150,12 @@ Segments* WelcomeView::nudges() {
 
 QWidget* WelcomeView::loginCard() {
     auto* card = new PaperCard;
-    auto* row = new QWidget;
-    auto* layout = bare<QHBoxLayout>(row, 12);
-    auto* said = new QVBoxLayout;
-    said->setSpacing(1);
-    said->addWidget(words(WelcomeWords::login, strong));
-    said->addWidget(words(WelcomeWords::loginDetail, remark));
-    loginError_ = new TextBlock({}, {.token = TypeToken::callout, .mostLines = 4, .weight = QFont::DemiBold});
-    said->addWidget(loginError_);
-    layout->addLayout(said, 1);
     login_ = new StickerSwitch(text(WelcomeWords::login));
     login_->setChecked(loginItem_->isEnabled());
     QObject::connect(login_, &QAbstractButton::clicked, this, [this](bool on) { switchLogin(on); });
-    layout->addWidget(login_);
-    card->column()->addWidget(row);
+    card->column()->addWidget(paperRow(WelcomeWords::login, WelcomeWords::loginDetail, login_));
+    loginError_ = new TextBlock({}, {.token = TypeToken::callout, .mostLines = 4, .weight = QFont::DemiBold});
+    card->column()->addWidget(loginError_);
     return card;
 }
 
@@ -242,19 +208,6 @@ void WelcomeView::refresh() {
 
 std::optional<WelcomeRhythm> WelcomeView::rhythm() const {
     return form_.isTouched() ? std::optional(form_.rhythm()) : std::nullopt;
-}
-
-QSize WelcomeView::sizeHint() const {
-    const double share = 1 + (appearanceOf(*this).textScale - 1) * 0.7;
-    const int width =
-        std::max(static_cast<int>(std::lround(usualWidth * share)), layout()->minimumSize().width());
-    return {width, layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
-                                                 : layout()->sizeHint().height()};
-}
-
-void WelcomeView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    drawStickerBackground(painter, rect(), appearanceOf(*this));
 }
 
 } // namespace quietlark

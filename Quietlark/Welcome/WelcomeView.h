@@ -2,9 +2,7 @@
 
 #include "Quietlark/Platform/LoginItem.h"
 #include "Quietlark/Welcome/WelcomeForm.h"
-
-#include <QStringList>
-#include <QWidget>
+#include "Quietlark/Windows/PaperView.h"
 
 #include <functional>
 #include <optional>
@@ -19,7 +17,7 @@ class WumbleView;
 
 /// The first run: the pet says hello, and the person picks a rhythm. Two ways lead out of it, and both are told to
 /// `done`.
-class WelcomeView : public QWidget {
+class WelcomeView : public PaperView {
 public:
     /// Both must outlive it; the login item may be missing, and its row with it.
     WelcomeView(AppModel& model, LoginItem* loginItem, QWidget* parent = nullptr);
@@ -32,15 +30,7 @@ public:
     /// Absent when the switch was left alone.
     std::optional<bool> openAtLogin() const { return openAtLogin_; }
 
-    /// Called when `sizeHint` has become another.
-    std::function<void()> wantsOtherSize = [] {};
-
     void refresh();
-
-    QSize sizeHint() const override;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     QWidget* hello();
@@ -49,7 +39,6 @@ private:
     QWidget* details();
     QWidget* loginCard();
     QWidget* actions();
-    QWidget* detailRow(const WelcomeWords::Row& row, Segments* choices);
     Segments* lengths(const std::vector<double>& choices, double current,
                       void (WelcomeForm::*choose)(double));
     Segments* nudges();

@@ -1,0 +1,62 @@
+#include "Quietlark/Windows/PaperView.h"
+
+#include "Quietlark/Surfaces/TextBlock.h"
+#include "Quietlark/Theme/AppearanceScope.h"
+#include "Quietlark/Theme/Sticker.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quietlark {
+
+namespace {
+
+/// Of what text grows by, the width takes only a part: lines may break.
+constexpr double widthForText = 0.7;
+
+QString text(std::string_view words) {
+    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
+}
+
+} // namespace
+
+PaperView::PaperView(int usualWidth, QWidget* parent) : QWidget(parent), usualWidth_(usualWidth) {}
+
+QSize PaperView::sizeHint() const {
+    const double share = 1 + (appearanceOf(*this).textScale - 1) * widthForText;
+    const int width =
+        std::max(static_cast<int>(std::lround(usualWidth_ * share)), layout()->minimumSize().width());
+    return {width, layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
+                                                 : layout()->sizeHint().height()};
+}
+
+void PaperView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawStickerBackground(painter, rect(), appearanceOf(*this));
+}
+
+QWidget* paperRow(std::string_view title, std::string_view detail, QWidget* control) {
+    auto* whole = new QWidget;
+    auto* layout = new QHBoxLayout(whole);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    auto* said = new QVBoxLayout;
+    said->setSpacing(1);
+    said->addStretch(1);
+    said->addWidget(new TextBlock(text(title), {.mostLines = 2, .weight = QFont::DemiBold}));
+    if (!detail.empty()) {
+        said->addWidget(new TextBlock(text(detail),
+                                      {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 3}));
+    }
+    said->addStretch(1);
+    layout->addLayout(said, 1);
+    control->setAccessibleName(text(title));
+    layout->addWidget(control);
+    return whole;
+}
+
+} // namespace quietlark
