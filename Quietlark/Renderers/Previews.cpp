@@ -12,10 +12,8 @@ struct Part {
 };
 
 constexpr std::array parts{
-    Part{"notes", renderNotePictures},
-    Part{"nudges", renderNudgeCards},
-    Part{"break-screen", renderBreakScreens},
-    Part{"tray", renderTrayPictures},
+    Part{"notes", renderNotePictures},        Part{"nudges", renderNudgeCards},
+    Part{"break-screen", renderBreakScreens}, Part{"tray", renderTrayPictures},
     Part{"welcome", renderWelcomePictures},
 };
 

@@ -31,7 +31,9 @@ constexpr std::array<SurfaceRow, 11> surfaces{{
 }};
 static_assert(wumble::isInOrder(surfaces));
 
-int mixed(int from, int to, double share) { return static_cast<int>(std::lround(from + (to - from) * share)); }
+int mixed(int from, int to, double share) {
+    return static_cast<int>(std::lround(from + (to - from) * share));
+}
 
 } // namespace
 

@@ -182,7 +182,9 @@ TEST(WumbleView, itLooksToThePointerWhereThatIsTold) {
     stage.view.setFollowsPointer(true);
     stage.view.show();
     EXPECT_DOUBLE_EQ(stage.view.pose(2).look, 0);
-    WumbleView::desktopPointer = [&] { return std::optional(QPointF(stage.view.mapToGlobal(QPoint(400, 50)))); };
+    WumbleView::desktopPointer = [&] {
+        return std::optional(QPointF(stage.view.mapToGlobal(QPoint(400, 50))));
+    };
     EXPECT_GT(stage.view.pose(2.1).look, 0.7);
     WumbleView::desktopPointer = [] { return std::optional<QPointF>(); };
     EXPECT_DOUBLE_EQ(stage.view.pose(2.2).look, 0);

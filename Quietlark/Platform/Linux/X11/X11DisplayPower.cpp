@@ -19,8 +19,8 @@ void X11DisplayPower::ask() {
     asked_ = now;
     connection_.ask(xcb_dpms_info(server.get()).sequence, [this](const void* reply) {
         const auto* info = static_cast<const xcb_dpms_info_reply_t*>(reply);
-        areAsleep_ =
-            info ? std::optional(info->state != 0 && info->power_level != XCB_DPMS_DPMS_MODE_ON) : std::nullopt;
+        areAsleep_ = info ? std::optional(info->state != 0 && info->power_level != XCB_DPMS_DPMS_MODE_ON)
+                          : std::nullopt;
     });
 }
 
