@@ -22,9 +22,10 @@ constexpr std::array heartLayers{edge(heart, 0xE6516A), line(heartShine, 0xFFB3B
 constexpr std::array plantLayers{line(plantStem, 0x5C8F45, 4), edge(plantLeafA, 0x76B359),
                                  edge(plantLeafB, 0x629E49),   edge(plantLeafC, 0x8BC66B),
                                  edge(plantPot, 0xD37B52),     edge(plantPotRim, 0xE3946B)};
-constexpr std::array craneLayers{edge(craneTail, 0x5E97CE), edge(craneNeck, 0x86B9E6),
-                                 edge(craneHead, 0xF4B544), edge(craneBackWing, 0x5E97CE),
-                                 edge(craneBody, 0x79AEE0), edge(craneLight, 0xC3E0F7)};
+constexpr std::array craneLayers{edge(craneOutline, 0x79AEE0),  fill(craneTail, 0x5E97CE),
+                                 fill(craneNeck, 0x86B9E6),     fill(craneHead, 0xF4B544),
+                                 fill(craneBackWing, 0x5E97CE), fill(craneBody, 0x79AEE0),
+                                 fill(craneLight, 0xC3E0F7)};
 constexpr std::array pencilLayers{edge(pencilRubber, 0xF48FA0),       edge(pencilWood, 0xF8C644),
                                   line(pencilStripes, 0xE3A52F, 2.4), edge(pencilTip, 0xF3D6A8),
                                   fill(pencilLead, 0x4A4048),         fill(pencilFerrule, 0xB9BDC8)};

@@ -49,6 +49,11 @@ inline constexpr Art plantLeafB{"M0-18C4-36 18-44 30-38C30-24 16-14 0-18Z"};
 
 inline constexpr Art plantLeafC{"M0-22C-9-32-7-46 1-52C9-46 9-32 0-22Z"};
 
+/// Around all of its folds, so that its rim is one line.
+inline constexpr Art craneOutline{
+    "M-42-17L-14.8 2.3L-11-24L6.8-4.4L20-23L18.1-5.3L37-26L48-15L34.2-18.3L23.2 11.3"
+    "L25 12L22.3 13.6L21 17L18.9 15.7L2 26L-17.4 15.5L-21 17Z"};
+
 inline constexpr Art craneTail{"M-4 10L-42-17L-21 17Z"};
 
 inline constexpr Art craneNeck{"M6 8L37-26L21 17Z"};
