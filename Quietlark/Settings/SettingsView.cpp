@@ -4,6 +4,7 @@
 #include "Quietlark/Theme/Controls/Segments.h"
 #include "Quietlark/Theme/Controls/StickerSlider.h"
 #include "Quietlark/Theme/Controls/StickerSwitch.h"
+#include "Quietlark/Theme/Text.h"
 #include "Quietlark/Windows/Choices.h"
 #include "Quietlark/Windows/PaperCard.h"
 
@@ -26,10 +27,6 @@ constexpr int sliderSteps = 100;
 constexpr std::array nudgeChoices{0, 1, 2};
 constexpr std::array appearances{wumble::Appearance::system, wumble::Appearance::light,
                                  wumble::Appearance::dark};
-
-QString text(std::string_view words) {
-    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
-}
 
 QWidget* row(const SettingsWords::Row& words, QWidget* control) {
     return paperRow(words.title, words.detail, control);

@@ -7,6 +7,7 @@
 #include "Quietlark/Theme/Controls/Segments.h"
 #include "Quietlark/Theme/Controls/StickerButton.h"
 #include "Quietlark/Theme/Controls/StickerSwitch.h"
+#include "Quietlark/Theme/Text.h"
 #include "Quietlark/Windows/Choices.h"
 #include "Quietlark/Windows/PaperCard.h"
 
@@ -23,10 +24,6 @@ constexpr int edge = 24;
 constexpr int groupGap = 14;
 constexpr int petSize = 148;
 constexpr double previewLength = 12; ///< seconds
-
-QString text(std::string_view words) {
-    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
-}
 
 template <class Layout> Layout* bare(QWidget* widget, int spacing = 0) {
     auto* layout = new Layout(widget);

@@ -3,6 +3,7 @@
 #include "Quietlark/Surfaces/TextBlock.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Sticker.h"
+#include "Quietlark/Theme/Text.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -17,10 +18,6 @@ namespace {
 
 /// Of what text grows by, the width takes only a part: lines may break.
 constexpr double widthForText = 0.7;
-
-QString text(std::string_view words) {
-    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
-}
 
 } // namespace
 

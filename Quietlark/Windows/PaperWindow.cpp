@@ -1,6 +1,7 @@
 #include "Quietlark/Windows/PaperWindow.h"
 
 #include "Quietlark/Theme/AppearanceScope.h"
+#include "Quietlark/Theme/Text.h"
 
 #include <QScreen>
 #include <QScrollArea>
@@ -23,7 +24,7 @@ PaperWindow::PaperWindow(std::string_view title, std::unique_ptr<QWidget> view,
           appearanceChanged();
       }) {
     window_->setObjectName(QStringLiteral("quietlark.window"));
-    window_->setWindowTitle(QString::fromUtf8(title.data(), static_cast<qsizetype>(title.size())));
+    window_->setWindowTitle(text(title));
     auto* scroll = new QScrollArea;
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);

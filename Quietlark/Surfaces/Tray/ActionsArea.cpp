@@ -5,6 +5,7 @@
 #include "Quietlark/Surfaces/Tray/TrayActions.h"
 #include "Quietlark/Surfaces/Tray/Well.h"
 #include "Quietlark/Theme/Controls/StickerButton.h"
+#include "Quietlark/Theme/Text.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -35,10 +36,6 @@ constexpr std::array<Face, 6> faces{{
     {Action::skip, StickerButton::Kind::quiet, std::nullopt},
     {Action::pause, StickerButton::Kind::plain, Symbol::chevronDown},
 }};
-
-QString text(std::string_view words) {
-    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
-}
 
 bool sameActions(const std::vector<ActionRow>& left, const std::vector<ActionRow>& right) {
     return std::ranges::equal(left, right, {}, &ActionRow::action, &ActionRow::action);

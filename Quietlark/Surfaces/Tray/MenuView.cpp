@@ -11,6 +11,7 @@
 #include "Quietlark/Theme/Controls/PressControl.h"
 #include "Quietlark/Theme/Controls/RevealDots.h"
 #include "Quietlark/Theme/Sticker.h"
+#include "Quietlark/Theme/Text.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -34,10 +35,6 @@ constexpr double inset = 2; ///< of the dots from the outline
 constexpr double dotSpacing = 14;
 constexpr int petSize = 92;
 constexpr double waitsAgainFor = 2; ///< seconds
-
-QString text(std::string_view words) {
-    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
-}
 
 /// Larger letters want a wider card, but not as much wider as they are larger.
 double widthShare(double textScale) { return 1 + (textScale - 1) * 0.6; }

@@ -4,6 +4,7 @@
 #include "Quietlark/Surfaces/Tray/MenuRow.h"
 #include "Quietlark/Surfaces/Tray/Well.h"
 #include "Quietlark/Theme/Controls/IconButton.h"
+#include "Quietlark/Theme/Text.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -16,10 +17,6 @@ namespace {
 
 constexpr int countsInset = PressControl::margin + 10; ///< in line with the symbols of the rows
 constexpr int countsAir = 6;
-
-QString text(std::string_view words) {
-    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
-}
 
 template <class Layout> Layout* bare(QWidget* widget) {
     auto* layout = new Layout(widget);

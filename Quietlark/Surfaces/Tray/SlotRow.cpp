@@ -3,18 +3,11 @@
 #include "Quietlark/Surfaces/TextBlock.h"
 #include "Quietlark/Surfaces/Tray/Refill.h"
 #include "Quietlark/Theme/Controls/StickerButton.h"
+#include "Quietlark/Theme/Text.h"
 
 #include <QHBoxLayout>
 
 namespace quietlark {
-
-namespace {
-
-QString text(std::string_view words) {
-    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
-}
-
-} // namespace
 
 SlotRow::SlotRow(QWidget* parent) : QWidget(parent) {
     auto* row = new QHBoxLayout(this);
