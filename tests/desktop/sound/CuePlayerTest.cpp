@@ -17,6 +17,8 @@ namespace {
 using wumble::Cue;
 
 constexpr double sampleRate = 44'100;
+constexpr double audible = 0.02;
+constexpr double unheard = 4000; ///< Hz, in no cue
 
 /// How strong a pitch is in samples, 1 for a pure tone of full loudness.
 double strength(std::span<const float> samples, double frequency) {
@@ -59,6 +61,26 @@ protected:
         return windows;
     }
 
+    /// Hears a cue until every pitch was clearly in it: a busy machine drops pieces of a recording, and a short pitch
+    /// may lie in one of them. What never sounds is never heard.
+    testing::AssertionResult hearsIn(Cue cue, const std::vector<double>& pitches) {
+        constexpr int attempts = 4;
+        testing::AssertionResult missed = testing::AssertionFailure() << wumble::enumText(cue);
+        for (int attempt = 0; attempt < attempts; ++attempt) {
+            const auto heard = hear([&] { playOut(cue, 1); });
+            const auto clear = [&](double pitch) {
+                const double strength = loudest(heard, pitch);
+                missed << "\n  " << pitch << " Hz: " << strength
+                       << ", not a pitch: " << loudest(heard, unheard);
+                return strength > audible && strength > 10 * loudest(heard, unheard);
+            };
+            if (std::ranges::all_of(pitches, clear)) {
+                return testing::AssertionSuccess();
+            }
+        }
+        return missed;
+    }
+
     double loudest(const std::vector<std::vector<float>>& windows, double frequency) const {
         double most = 0;
         for (const auto& window : windows) {
@@ -99,31 +121,24 @@ TEST_F(CuePlayerTest, eachCueIsHeardAtItsPitch) {
         {Cue::boing, {600}},
         {Cue::pop, {1568}},
     };
-    constexpr double unheard = 4000;
     for (const Case& each : cases) {
-        const auto heard = hear([&] { playOut(each.cue, 1); });
-        for (const double pitch : each.pitches) {
-            EXPECT_GT(loudest(heard, pitch), 0.02) << wumble::enumText(each.cue) << " " << pitch;
-            EXPECT_GT(loudest(heard, pitch), 10 * loudest(heard, unheard)) << wumble::enumText(each.cue);
-        }
+        EXPECT_TRUE(hearsIn(each.cue, each.pitches));
     }
 }
 
 TEST_F(CuePlayerTest, cuesOverlapAtTheirOwnVolumeAndNothingOpensAtNone) {
     player.play(Cue::reminder, 0);
     EXPECT_FALSE(output.isConnected());
-    const double alone = loudest(hear([&] { playOut(Cue::reminder, 0.5); }), 880);
+    const double half = loudest(hear([&] { playOut(Cue::reminder, 0.5); }), 880);
     const double full = loudest(hear([&] { playOut(Cue::reminder, 1); }), 880);
-    EXPECT_NEAR(alone / full, 0.5, 0.1);
+    EXPECT_NEAR(half / full, 0.5, 0.1);
     const auto both = hear([&] {
         player.play(Cue::breakStart, 1);
         playOut(Cue::reminder, 1);
     });
-    bool atOnce = false;
-    for (const auto& window : both) {
-        atOnce = atOnce || (strength(window, 880) > 0.05 && strength(window, 659.25) > 0.05);
-    }
-    EXPECT_TRUE(atOnce);
+    EXPECT_TRUE(std::ranges::any_of(both, [](const std::vector<float>& window) {
+        return strength(window, 880) > 0.05 && strength(window, 659.25) > 0.05;
+    }));
     EXPECT_EQ(outputOf({"pactl", "list", "short", "sink-inputs"}, lab.environment()), "")
         << "a stream was left open";
 }
@@ -136,7 +151,7 @@ TEST_F(CuePlayerTest, aServerThatEndsTakesTheSoundWithItAndTheNextOneIsHeard) {
     EXPECT_TRUE(spinUntil([&] { return !output.isConnected(); })) << "nobody to connect to";
     ASSERT_TRUE(lab.start());
     outputOf({"pactl", "set-default-sink", "speakers"}, lab.environment());
-    EXPECT_GT(loudest(hear([&] { playOut(Cue::reminder, 1); }), 880), 0.02);
+    EXPECT_TRUE(hearsIn(Cue::reminder, {880}));
 }
 
 } // namespace
