@@ -1,6 +1,7 @@
 #include "Quietlark/Surfaces/Notes/HeadsUpView.h"
 
 #include "Quietlark/Model/StatusLine.h"
+#include "Quietlark/Surfaces/Fading.h"
 #include "Quietlark/Surfaces/Notes/PointerHover.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Controls/StickerButton.h"
@@ -177,7 +178,7 @@ double HeadsUpView::morphed() const {
 void HeadsUpView::morph() {
     const double left = std::max(1 - 2 * morphed(), 0.0);
     for (StickerButton* button : buttons_) {
-        button->setOpacity(left);
+        setFading(*button, left);
         button->setVisible(left > 0);
     }
     const double elapsed = loop_.now() - followed_.answer->value().since;

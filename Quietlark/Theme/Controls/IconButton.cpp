@@ -43,7 +43,6 @@ void IconButton::paintEvent(QPaintEvent*) {
     const QRectF place = face();
     const double symbol = iconSize_ * look.textScale;
     QPainter painter(this);
-    painter.setOpacity(opacity());
     drawQuietFace(painter, place, Radius::small, offset(), look);
     QRectF symbolPlace(0, 0, symbol, symbol);
     symbolPlace.moveCenter(place.center());
