@@ -38,6 +38,7 @@ private:
 
     xcb_window_t id() const;
     bool isMade() const { return id() != XCB_NONE; }
+    void moveTo(QPoint pixel);
     void make();
     void mark();
     void map();
