@@ -75,16 +75,16 @@ TEST_F(NotesOnScreenTest, thePillGoesWithThePointerLetsClicksThroughAndWaitsForT
     home->remember(settings);
     const auto below = open("Below", "60x10-0-0");
     const auto editor = open("Editor", "60x10+100+300");
-    point(900, 500);
-    const auto program = home->start();
+    point(901, 501);
+    const auto program = home->start({}, {{"QT_SCALE_FACTOR", "2"}});
     ASSERT_TRUE(comes("countdown")) << home->errors();
     const auto isAt = [&](int x, int y) {
-        return spinUntil([&] { return placeOf("countdown") == WindowPlace{x, y, 272, 100}; }, 3);
+        return spinUntil([&] { return placeOf("countdown") == WindowPlace{x, y, 2 * 272, 2 * 100}; }, 3);
     };
-    EXPECT_TRUE(isAt(900 + 18 - margin, 500 - 2 - margin));
-    point(1450, 860);
-    EXPECT_TRUE(isAt(1600 - 244 - margin, 900 - 72 - margin)) << "all of it stays on the screen";
-    click(*server, 1450, 860);
+    EXPECT_TRUE(isAt(901 + 2 * (18 - margin), 501 + 2 * (-2 - margin))) << "to the pixel";
+    point(1300, 850);
+    EXPECT_TRUE(isAt(1600 - 2 * (244 + margin), 900 - 2 * (72 + margin))) << "all of it stays on the screen";
+    click(*server, 1300, 850);
     EXPECT_TRUE(getsKeyboard("Below"));
 
     const auto type = [&] { server->run({"xdotool", "key", "a"}); };
