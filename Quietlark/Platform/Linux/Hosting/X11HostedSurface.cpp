@@ -77,17 +77,22 @@ void X11HostedSurface::setFrame(const QRectF& frame) {
     const QRect place = frame.toRect();
     QScreen* screen = QGuiApplication::screenAt(place.center());
     const bool onlyMoves = isMapped_ && screen == window_->screen() && place.size() == window_->size();
-    if (onlyMoves) {
-        return moveTo(pixelAt(frame.topLeft(), *screen));
+    if (!onlyMoves) {
+        if (screen != nullptr) {
+            window_->setScreen(screen);
+        }
+        window_->setGeometry(place);
     }
-    if (screen != nullptr) {
-        window_->setScreen(screen);
-    }
-    window_->setGeometry(place);
+    moveToPixel();
 }
 
 /// The toolkit moves by whole points, which the eye sees as steps where a point is several pixels.
-void X11HostedSurface::moveTo(QPoint pixel) {
+void X11HostedSurface::moveToPixel() {
+    const QScreen* screen = window_->screen();
+    if (!isMade() || screen == nullptr) {
+        return;
+    }
+    const QPoint pixel = pixelAt(frame_.topLeft(), *screen);
     const std::array place{static_cast<std::uint32_t>(pixel.x()), static_cast<std::uint32_t>(pixel.y())};
     xcb_configure_window(desk_.connection, id(), XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, place.data());
     xcb_flush(desk_.connection);
@@ -125,6 +130,7 @@ void X11HostedSurface::setMapped(bool mapped) {
 
 void X11HostedSurface::map() {
     make();
+    moveToPixel();
     window_->show();
     desk_.layers.add(id(), style_.layer);
     if (style_.keyboard == Keyboard::whole) {

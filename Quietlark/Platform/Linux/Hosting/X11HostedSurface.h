@@ -38,7 +38,7 @@ private:
 
     xcb_window_t id() const;
     bool isMade() const { return id() != XCB_NONE; }
-    void moveTo(QPoint pixel);
+    void moveToPixel();
     void make();
     void mark();
     void map();
