@@ -289,6 +289,9 @@ bool renderNotePictures(const std::filesystem::path& folder, Appearance appearan
     Appearance large = appearance;
     large.textScale = 1.5;
     saved = renderNotes(folder, 1, "-large-text.png", large) && saved;
+    Appearance firm = appearance;
+    firm.moreContrast = true;
+    saved = renderNotes(folder, 1, "-more-contrast.png", firm) && saved;
     for (const auto entrance : {wumble::NoteEntrance::slap, wumble::NoteEntrance::eye}) {
         const auto name = "motion-" + std::string(enumText(entrance)) + ".png";
         saved = save(motionStrip(entrance, 1, appearance), folder, name) && saved;

@@ -20,10 +20,6 @@ constexpr double widestTag = 240;
 constexpr double ringLine = 2;
 constexpr double ringGap = 2; ///< between the control and the ring
 
-double outlineOf(const StickerStyle& style, const Appearance& appearance) {
-    return style.outline > 0 && appearance.moreContrast ? style.outline + contrastLine : style.outline;
-}
-
 TextStyle tagText(Surface fill) {
     return {.token = TypeToken::caption,
             .ink = ink(fill),
@@ -33,9 +29,13 @@ TextStyle tagText(Surface fill) {
 
 } // namespace
 
+double outlineWidth(double wanted, const Appearance& appearance) {
+    return wanted > 0 && appearance.moreContrast ? wanted + contrastLine : wanted;
+}
+
 void drawSticker(QPainter& painter, const QRectF& rect, const StickerStyle& style,
                  const Appearance& appearance) {
-    const double line = outlineOf(style, appearance);
+    const double line = outlineWidth(style.outline, appearance);
     const double radius = std::min({style.radius, rect.width() / 2, rect.height() / 2});
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

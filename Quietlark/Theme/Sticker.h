@@ -18,6 +18,9 @@ struct StickerStyle {
     double outline = 1.5; ///< 0 for none; firmer with more contrast
 };
 
+/// How thick an outline of `wanted` points is drawn: firmer with more contrast, none at 0.
+double outlineWidth(double wanted, const Appearance& appearance);
+
 /// A flat fill with a firm outline inside `rect`. The hard shadow lies outside of it, to the right and down by the
 /// lift.
 void drawSticker(QPainter& painter, const QRectF& rect, const StickerStyle& style,
