@@ -76,6 +76,7 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
       termination_([] { QCoreApplication::quit(); }),
       processEnd_([this] { model_.prepareForTermination(); }) {
     model_.openCollage = [this](auto, auto) { showSettings(); };
+    WumbleView::onPoke = [this](wumble::WumbleGesture gesture) { model_.petWasPoked(gesture); };
     WumbleView::desktopPointer = [this] { return host_->pointer(); };
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeActivation([this] { reopen(); });
@@ -132,6 +133,7 @@ void AppDelegate::showWelcome() {
 
 AppDelegate::~AppDelegate() {
     WumbleView::desktopPointer = nullptr;
+    WumbleView::onPoke = nullptr;
     model_.prepareForTermination();
 }
 
