@@ -57,6 +57,10 @@ void copy(QPainter& painter, const QRect& exposed, const QPixmap& from, double p
     painter.restore();
 }
 
+bool isSeenThrough(const BreakGround::Look& look) {
+    return look.style == wumble::BreakScreenStyle::blur && !look.appearance.reduceTransparency;
+}
+
 } // namespace
 
 void BreakGround::setLook(const Look& look) {
@@ -67,9 +71,9 @@ void BreakGround::setLook(const Look& look) {
     }
 }
 
-bool BreakGround::showsBackdrop() const {
-    return look_.style == wumble::BreakScreenStyle::blur && !look_.appearance.reduceTransparency && backdrop_;
-}
+bool BreakGround::needsBackdrop(const Look& look) { return isSeenThrough(look) || !look.blends; }
+
+bool BreakGround::showsBackdrop() const { return isSeenThrough(look_) && backdrop_; }
 
 void BreakGround::drawWhole(QPainter& painter, const QRectF& whole) const {
     if (!showsBackdrop()) {

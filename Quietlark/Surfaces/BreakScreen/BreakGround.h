@@ -25,6 +25,9 @@ public:
     /// `backdrop`: a small picture of what the screen showed; absent where there is none.
     explicit BreakGround(std::optional<QImage> backdrop) : backdrop_(std::move(backdrop)) {}
 
+    /// Whether a backdrop would be seen; taking one costs as much as several frames.
+    static bool needsBackdrop(const Look& look);
+
     void setLook(const Look& look);
 
     /// The part of it in `exposed`, at that opacity. Where the desktop can't blend, the backdrop shows through instead,

@@ -25,6 +25,21 @@ void placeLanding(Landing& thing, const QRectF& place) {
     thing.setGeometry(around);
 }
 
+/// Always dark, whatever the rest of the program is.
+BreakGround::Look groundLook(const SurfaceContext& context) {
+    Appearance appearance = context.appearance.value();
+    appearance.dark = true;
+    return {.style = context.model.state().settings.value().breakScreenStyle,
+            .appearance = appearance,
+            .blends = context.host.blends()};
+}
+
+/// Of what the screen shows before the view covers it.
+std::optional<QImage> backdrop(const BreakView::Setup& setup) {
+    const bool isNeeded = BreakGround::needsBackdrop(groundLook(setup.context));
+    return isNeeded ? setup.context.host.backdrop(setup.screen) : std::nullopt;
+}
+
 /// The same but for what the clock changes.
 bool differOnlyInTime(BreakContent a, const BreakContent& b) {
     const bool sameThings =
@@ -37,7 +52,7 @@ bool differOnlyInTime(BreakContent a, const BreakContent& b) {
 } // namespace
 
 BreakView::BreakView(Setup setup)
-    : setup_(std::move(setup)), ground_(setup_.context.host.backdrop(setup_.screen)),
+    : setup_(std::move(setup)), ground_(backdrop(setup_)),
       pet_(new BreakPet(setup_.context.model.state().today.value(),
                         {.now = [&loop = setup_.context.loop] { return loop.uptime(); },
                          .start = setup_.stage->petClockStart},
@@ -102,15 +117,12 @@ void BreakView::followModel() {
     followed_.push_back(observe(setup_.context.appearance, [this] { refreshAppearance(); }));
 }
 
-/// Always dark, whatever the rest of the program is.
 void BreakView::refreshAppearance() {
-    appearance_ = setup_.context.appearance.value();
-    appearance_.dark = true;
+    const BreakGround::Look look = groundLook(setup_.context);
+    appearance_ = look.appearance;
     setAppearance(*this, appearance_);
     pet_->setAppearance(appearance_);
-    ground_.setLook({.style = setup_.context.model.state().settings.value().breakScreenStyle,
-                     .appearance = appearance_,
-                     .blends = setup_.context.host.blends()});
+    ground_.setLook(look);
     if (content_.scene != BreakScene::empty) {
         layOut(true);
     }
