@@ -1,5 +1,6 @@
 #include "Quietlark/Windows/PaperWindow.h"
 
+#include "Quietlark/Pet/AppIcon.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Text.h"
 
@@ -25,6 +26,7 @@ PaperWindow::PaperWindow(std::string_view title, std::unique_ptr<QWidget> view,
       }) {
     window_->setObjectName(QStringLiteral("quietlark.window"));
     window_->setWindowTitle(text(title));
+    window_->setWindowIcon(AppIcon::ofWindows());
     auto* scroll = new QScrollArea;
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
