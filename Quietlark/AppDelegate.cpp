@@ -95,6 +95,7 @@ void AppDelegate::beginWhenTheDesktopHasAnswered(const command::RunApplication& 
 
 void AppDelegate::begin(const command::RunApplication& options) {
     model_.start(AppModel::Running::ticking);
+    surfaces_.prepare();
     carryOut(options);
     if (isWelcomed()) {
         model_.greetToday();
