@@ -12,6 +12,8 @@
 
 namespace quietlark {
 
+class PaperScroll;
+
 /// An ordinary window of the program, as large as what it shows wants to be and the screen allows.
 class PaperWindow {
 public:
@@ -35,6 +37,7 @@ public:
 private:
     std::unique_ptr<QWidget> window_;
     QWidget* view_;
+    PaperScroll* scroll_;
     QPropertyNotifier appearanceWatch_;
 };
 
