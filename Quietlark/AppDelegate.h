@@ -35,7 +35,7 @@ private:
     bool isWelcomed() const;
     void reopen();
     void showWelcome();
-    void showSettings();
+    SettingsWindow& settings();
 
     QtMainLoop loop_;
     Platform platform_;

@@ -14,6 +14,8 @@ namespace {
 /// Of the screen that the window leaves free at least, for its frame and panels.
 constexpr QSize leftFree{40, 80};
 
+constexpr int partMargin = 16; ///< in sight around what was scrolled to
+
 } // namespace
 
 PaperWindow::PaperWindow(std::string_view title, std::unique_ptr<QWidget> view,
@@ -50,6 +52,11 @@ void PaperWindow::fit() {
     window_->setMinimumWidth(wanted.width());
     window_->resize(wanted);
     scroll_->fitBar();
+}
+
+void PaperWindow::scrollTo(QWidget& part) {
+    view_->layout()->activate();
+    scroll_->ensureWidgetVisible(&part, 0, partMargin);
 }
 
 } // namespace quietlark

@@ -32,6 +32,9 @@ public:
     /// Takes the size that the view wants now.
     void fit();
 
+    /// Brings a part of the view into sight.
+    void scrollTo(QWidget& part);
+
     QWidget& window() { return *window_; }
 
 private:

@@ -22,7 +22,7 @@ protected:
 TEST_F(WelcomeWalkTest, closedHalfWayItAsksAgainAndStartingByMouseSetsTheRhythm) {
     auto program = home->start();
     ASSERT_TRUE(comes(welcome)) << home->errors();
-    ASSERT_TRUE(reader->press("45 min"));
+    ASSERT_TRUE(reader->press("every 45 min"));
     keys({"alt+F4"});
     EXPECT_TRUE(goes(welcome));
     EXPECT_EQ(program->wait(0), std::nullopt) << "it stays in the tray";
@@ -38,7 +38,7 @@ TEST_F(WelcomeWalkTest, closedHalfWayItAsksAgainAndStartingByMouseSetsTheRhythm)
     keys({"Escape"});
     EXPECT_TRUE(goes("break-screen"));
     EXPECT_TRUE(isUp(welcome)) << "a preview doesn't end it";
-    ASSERT_TRUE(reader->press("30 min"));
+    ASSERT_TRUE(reader->press("every 30 min"));
     ASSERT_TRUE(reader->press("customize"));
     ASSERT_TRUE(reader->press("1 min"));
     ASSERT_TRUE(reader->press("Open Quietlark when I log in"));

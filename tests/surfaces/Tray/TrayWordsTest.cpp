@@ -122,7 +122,7 @@ const std::vector<Case> cases = {
     {"off hours",
      [](ModelDriver& driver) { driver.run(5); },
      "",
-     "Off hours · back | at 1:00 PM",
+     "Off hours · back at 1:00 PM",
      {"Break now"},
      afternoonsOnly},
 };
