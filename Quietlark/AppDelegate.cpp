@@ -4,6 +4,7 @@
 #include "Quietlark/Pet/WumbleView.h"
 #include "Quietlark/Platform/Linux/Hosting/SurfaceHosts.h"
 #include "Quietlark/Platform/Linux/LinuxPlatform.h"
+#include "Quietlark/QtMainLoop.h"
 #include "Quietlark/SystemCalendar.h"
 #include "WumbleCore/Storage/DataFolderLock.h"
 #include "WumbleCore/Storage/Storage.h"
@@ -52,8 +53,9 @@ std::unique_ptr<SurfaceHost> hostYieldingToLocks(Platform& platform) {
 
 } // namespace
 
-AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options)
-    : platform_(makeLinuxPlatform(loop_)), accessibility_(*platform_.announcer, *platform_.look),
+AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options,
+                         MainLoop& loop, Platform platform)
+    : loop_(loop), platform_(std::move(platform)), accessibility_(*platform_.announcer, *platform_.look),
       host_(hostYieldingToLocks(platform_)), sounds_(*platform_.soundOutput),
       model_(folder, {.mainLoop = loop_,
                       .platform = platform_,
@@ -154,7 +156,8 @@ int runApplication(const command::RunApplication& options) {
     if (!lock) {
         return refuse(folder);
     }
-    const AppDelegate delegate(folder, options);
+    QtMainLoop loop;
+    const AppDelegate delegate(folder, options, loop, makeLinuxPlatform(loop));
     return QCoreApplication::exec();
 }
 

@@ -18,8 +18,8 @@ struct WumbleClock {
     double start = 0;
 };
 
-/// The seconds since the program's first look at them.
-WumbleClock realClock();
+/// That of the machine, or what `WumbleView::usualTime` tells.
+WumbleClock usualClock();
 
 /// One pet in a widget: it moves in its mood, follows the pointer, and answers when it is poked.
 class WumbleView : public QWidget {
@@ -31,6 +31,9 @@ public:
 
     /// Where the pointer is on the desktop, for pets that follow it; they look straight ahead while nobody tells.
     static std::function<std::optional<QPointF>()> desktopPointer;
+
+    /// The time of all pets that aren't given a clock, for those who move it by hand; that of the machine by default.
+    static std::function<double()> usualTime;
 
     void setDay(const wumble::WumbleDay& day);
     void setMood(wumble::WumbleMood mood);
@@ -84,7 +87,7 @@ private:
 
     SoftWumble::Tweaks tweaks_;
     SoftWumble::Sticker sticker_ = SoftWumble::Sticker::dieCut;
-    WumbleClock clock_ = realClock();
+    WumbleClock clock_ = usualClock();
     wumble::Random random_;
     QString familyName_;
     Doing doing_;

@@ -72,6 +72,9 @@ public:
     virtual bool takesPointer() const = 0;
     virtual void setTakesPointer(bool takes) = 0;
 
+    /// Gives the keyboard back to whom it was taken from, while the surface itself stays. It doesn't take it again.
+    virtual void releaseKeyboard() {}
+
     /// What of the view is to be seen where the desktop can't blend it with what lies behind; elsewhere nothing comes
     /// of it. All of it until this is called.
     virtual void setOutline(const QRegion& outline) = 0;

@@ -10,9 +10,7 @@
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Sticker.h"
 
-#include <QEventLoop>
 #include <QPainter>
-#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -33,14 +31,6 @@ constexpr double margin = NoteStage::margin;
 const std::string longName =
     "Quarterly Planning Board – Extended Edition for Large Teams with Very Many Members and an Unreasonably "
     "Long Window Title That Somebody Never Shortened Although It Was Asked for More Than Once 🙂";
-
-/// Lets what moves have a frame.
-void catchUp() {
-    constexpr int frameLength = 20; ///< milliseconds, a little more than that of any frame
-    QEventLoop frames;
-    QTimer::singleShot(frameLength, &frames, &QEventLoop::quit);
-    frames.exec();
-}
 
 /// One note on a stage of its own.
 struct Show {
@@ -63,7 +53,7 @@ struct Show {
     }
 
     QImage picture(double scale) const {
-        catchUp();
+        FrameTicker::frameOfAll();
         QImage image((QSizeF(stage->size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
         image.setDevicePixelRatio(scale);
         image.fill(Qt::transparent);

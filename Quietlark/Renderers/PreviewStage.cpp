@@ -1,5 +1,6 @@
 #include "Quietlark/Renderers/PreviewStage.h"
 
+#include "Quietlark/Pet/WumbleView.h"
 #include "Quietlark/Renderers/PetCells.h"
 #include "Quietlark/Surfaces/FrameTicker.h"
 #include "WumbleCore/Life/DayKey.h"
@@ -45,7 +46,11 @@ PreviewStage::PreviewStage(const Appearance& look, const Choose& choose, int rev
       model(furnish(folder_, choose, revealed, restDays), {.mainLoop = loop,
                                                            .platform = platform,
                                                            .calendar = wumble::Calendar(),
-                                                           .random = [](std::uint64_t) { return 0; }}) {}
+                                                           .random = [](std::uint64_t) { return 0; }}) {
+    WumbleView::usualTime = [this] { return loop.uptime(); };
+}
+
+PreviewStage::~PreviewStage() { WumbleView::usualTime = nullptr; }
 
 void PreviewStage::advance(double seconds) {
     loop.advance(seconds);

@@ -1,5 +1,6 @@
 #include "Quietlark/Windows/PaperWindow.h"
 
+#include "Quietlark/Pet/AppIcon.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Controls/PaperScroll.h"
 #include "Quietlark/Theme/Text.h"
@@ -27,6 +28,7 @@ PaperWindow::PaperWindow(std::string_view title, std::unique_ptr<QWidget> view,
       }) {
     window_->setObjectName(QStringLiteral("quietlark.window"));
     window_->setWindowTitle(text(title));
+    window_->setWindowIcon(AppIcon::ofWindows());
     scroll_ = new PaperScroll;
     scroll_->setWidget(view.release());
     auto* whole = new QVBoxLayout(window_.get());

@@ -133,6 +133,7 @@ void BreakOverlayController::hide(const std::optional<BreakScreenPhase>& showing
     stage_->leave(showing, context_.loop.now());
     for (const Window& window : leaving_) {
         window.surface->setTakesPointer(false);
+        window.surface->releaseKeyboard();
     }
     later(exitLength, [this, build = build_] {
         if (build_ == build) {
