@@ -131,6 +131,8 @@ const std::array scenes{
           [](Show& show) {
               show.stage.model.renameWumble("Wumblefritz von und zu Habenichts der Allerletzte");
           }},
+    Scene{"other-script", 4,
+          [](Show& show) { show.stage.model.renameWumble("\u0648\u0648\u0645\u0628\u0644 \U0001F361"); }},
 };
 
 QImage picture(const Scene& scene, const Appearance& appearance, double scale) {
@@ -151,6 +153,9 @@ bool renderTrayPictures(const std::filesystem::path& folder, Appearance appearan
         saved = save(picture(scene, appearance, 2), folder, name + ".png") && saved;
     }
     saved = save(picture(scenes.front(), appearance, 1), folder, "popover-working-1x.png") && saved;
+    Appearance sharp = appearance;
+    sharp.moreContrast = true;
+    saved = save(picture(scenes.front(), sharp, 2), folder, "popover-high-contrast.png") && saved;
     appearance.textScale = 1.5;
     return save(picture(scenes.front(), appearance, 2), folder, "popover-large-text.png") && saved;
 }

@@ -78,8 +78,9 @@ Status pausedStatus(const wumble::pause::Manual& manual, const AppState& state,
 
 std::string holdLine(const AppState& state, const wumble::BreakEngine& engine) {
     if (isHeldByTyping(state)) {
-        return state.dragging.value() ? "The break starts when you let go"
-                                      : "The break starts when you pause";
+        return state.dragging.value()
+                   ? "The break starts when you let go"
+                   : "The break starts when you pause " + std::string(typingHoldVerb(state));
     }
     if (const auto& after = state.breatherAfter.value()) {
         const char* what = engine.waitingForPause() ? " · the break will wait" : " · a short breather first";
@@ -135,7 +136,7 @@ Status pausedStatus(const wumble::PauseReason& reason, const AppState& state,
         [&](const wumble::pause::OffHours&) {
             const wumble::Date now = state.now.value();
             const auto next = state.settings.value().nextOfficeHoursStart(now, calendar);
-            return Status{.words = "Off hours · back", .detail = ModelWords::backLine(next, now, calendar)};
+            return Status{.words = "Off hours · back " + ModelWords::backLine(next, now, calendar)};
         },
         [&](const wumble::pause::Away&) { return workingStatus(state, engine); });
 }
