@@ -18,8 +18,8 @@ struct WumbleClock {
     double start = 0;
 };
 
-/// The seconds since the program's first look at them.
-WumbleClock realClock();
+/// That of the machine, or what `WumbleView::usualTime` tells.
+WumbleClock usualClock();
 
 /// One pet in a widget: it moves in its mood, follows the pointer, and answers when it is poked.
 class WumbleView : public QWidget {
@@ -32,19 +32,20 @@ public:
     /// Where the pointer is on the desktop, for pets that follow it; they look straight ahead while nobody tells.
     static std::function<std::optional<QPointF>()> desktopPointer;
 
+    /// The time of all pets that aren't given a clock, for those who move it by hand; that of the machine by default.
+    static std::function<double()> usualTime;
+
     void setDay(const wumble::WumbleDay& day);
     void setMood(wumble::WumbleMood mood);
     void setCalm(bool calm);
     /// Without one it has that of the widgets it is in.
     void setAppearance(const Appearance& appearance);
-    void setTweaks(const SoftWumble::Tweaks& tweaks);
     void setClock(WumbleClock clock);
     void setRandom(wumble::Random random);
     void setFamilyName(const QString& name); ///< "Wumble" unless the person named them
     void setFollowsPointer(bool follows);
     void setGaze(std::optional<wumble::Point> gaze); ///< instead of the pointer
     void setPokable(bool pokable);
-    void setSticker(SoftWumble::Sticker sticker);
 
     /// The part of the widget on each side that is left free for hops and stretches, 0 to below a half.
     void setRoom(double room);
@@ -82,9 +83,7 @@ private:
     void nextFrame();
     void keepMoving();
 
-    SoftWumble::Tweaks tweaks_;
-    SoftWumble::Sticker sticker_ = SoftWumble::Sticker::dieCut;
-    WumbleClock clock_ = realClock();
+    WumbleClock clock_ = usualClock();
     wumble::Random random_;
     QString familyName_;
     Doing doing_;
@@ -98,11 +97,7 @@ private:
     QTimer frames_;
 };
 
-/// Draws one fixed pose, for pictures and small places.
-void drawWumbleStill(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day,
-                     wumble::WumbleMood mood, Appearance appearance, SoftWumble::Tweaks tweaks = {});
-
 /// The rim and keyline of that appearance.
-SoftWumble::Tweaks stickerColours(Appearance appearance, SoftWumble::Tweaks tweaks = {});
+SoftWumble::Tweaks stickerColours(Appearance appearance);
 
 } // namespace quietlark

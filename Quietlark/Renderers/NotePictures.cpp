@@ -10,9 +10,7 @@
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Sticker.h"
 
-#include <QEventLoop>
 #include <QPainter>
-#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -33,14 +31,6 @@ constexpr double margin = NoteStage::margin;
 const std::string longName =
     "Quarterly Planning Board – Extended Edition for Large Teams with Very Many Members and an Unreasonably "
     "Long Window Title That Somebody Never Shortened Although It Was Asked for More Than Once 🙂";
-
-/// Lets what moves have a frame.
-void catchUp() {
-    constexpr int frameLength = 20; ///< milliseconds, a little more than that of any frame
-    QEventLoop frames;
-    QTimer::singleShot(frameLength, &frames, &QEventLoop::quit);
-    frames.exec();
-}
 
 /// One note on a stage of its own.
 struct Show {
@@ -63,7 +53,7 @@ struct Show {
     }
 
     QImage picture(double scale) const {
-        catchUp();
+        FrameTicker::frameOfAll();
         QImage image((QSizeF(stage->size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
         image.setDevicePixelRatio(scale);
         image.fill(Qt::transparent);
@@ -225,8 +215,10 @@ QImage laidOut(const std::vector<QImage>& pictures, int columns, const Appearanc
     QPainter painter(&image);
     drawStickerBackground(painter, QRectF({}, image.deviceIndependentSize()), appearance);
     for (int place = 0; place < static_cast<int>(pictures.size()); ++place) {
-        const QPointF corner((place % columns) * cell.width(), (place / columns) * cell.height());
-        painter.drawImage(corner, pictures[static_cast<std::size_t>(place)]);
+        const int column = place % columns;
+        const int row = place / columns;
+        painter.drawImage(QPointF(column * cell.width(), row * cell.height()),
+                          pictures[static_cast<std::size_t>(place)]);
     }
     return image;
 }
@@ -299,6 +291,9 @@ bool renderNotePictures(const std::filesystem::path& folder, Appearance appearan
     Appearance large = appearance;
     large.textScale = 1.5;
     saved = renderNotes(folder, 1, "-large-text.png", large) && saved;
+    Appearance firm = appearance;
+    firm.moreContrast = true;
+    saved = renderNotes(folder, 1, "-more-contrast.png", firm) && saved;
     for (const auto entrance : {wumble::NoteEntrance::slap, wumble::NoteEntrance::eye}) {
         const auto name = "motion-" + std::string(enumText(entrance)) + ".png";
         saved = save(motionStrip(entrance, 1, appearance), folder, name) && saved;

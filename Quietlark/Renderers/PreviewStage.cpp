@@ -1,5 +1,6 @@
 #include "Quietlark/Renderers/PreviewStage.h"
 
+#include "Quietlark/Pet/WumbleView.h"
 #include "Quietlark/Renderers/PetCells.h"
 #include "Quietlark/Surfaces/FrameTicker.h"
 #include "WumbleCore/Life/DayKey.h"
@@ -16,7 +17,7 @@ constexpr wumble::Date monday{1773046800}; ///< 9 March 2026, 9:00 in UTC
 /// What a program that was closed over the weekend would have left.
 std::filesystem::path furnish(const QTemporaryDir& folder, const PreviewStage::Choose& choose, int revealed,
                               int restDays) {
-    const std::filesystem::path path = folder.path().toStdString();
+    std::filesystem::path path = folder.path().toStdString();
     wumble::Storage storage(path);
     wumble::WumbleSettings settings;
     choose(settings);
@@ -45,7 +46,11 @@ PreviewStage::PreviewStage(const Appearance& look, const Choose& choose, int rev
       model(furnish(folder_, choose, revealed, restDays), {.mainLoop = loop,
                                                            .platform = platform,
                                                            .calendar = wumble::Calendar(),
-                                                           .random = [](std::uint64_t) { return 0; }}) {}
+                                                           .random = [](std::uint64_t) { return 0; }}) {
+    WumbleView::usualTime = [this] { return loop.uptime(); };
+}
+
+PreviewStage::~PreviewStage() { WumbleView::usualTime = nullptr; }
 
 void PreviewStage::advance(double seconds) {
     loop.advance(seconds);

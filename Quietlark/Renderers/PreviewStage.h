@@ -23,6 +23,9 @@ public:
     /// in a row that had a break. Nothing runs yet.
     explicit PreviewStage(
         const Appearance& look, const Choose& choose = [](auto&) {}, int revealed = 6, int restDays = 0);
+    ~PreviewStage();
+    PreviewStage(const PreviewStage&) = delete;
+    PreviewStage& operator=(const PreviewStage&) = delete;
 
     /// From here on the day goes by as `loop` is advanced.
     void start() { model.start(AppModel::Running::ticking); }

@@ -27,6 +27,10 @@ public:
     void show(const wumble::ActiveBreak& activeBreak) override;
     void hide(const std::optional<BreakScreenPhase>& showing) override;
 
+    /// A little later, when nobody waits for anything, goes once through what the first break would have to wait for:
+    /// typefaces and libraries.
+    void prepare();
+
     bool isUp() const { return !windows_.empty(); }
 
     /// The clock of the present or last showing; absent before the first.
@@ -38,8 +42,11 @@ private:
         Screen screen;
     };
 
+    void rehearse();
     void buildWindows();
     std::vector<Screen> targetScreens(const std::optional<Screen>& pointerScreen) const;
+    std::unique_ptr<HostedSurface> makeSurface(const std::shared_ptr<BreakStage>& stage, const Screen& screen,
+                                               bool isPrimary);
     Window makeWindow(const Screen& screen, bool isPrimary);
     void startStage();
     void checkLater();

@@ -220,7 +220,7 @@ void BreakView::say() {
         }
     }
     setAccessibleName(QString::fromStdString(content_.title));
-    setAccessibleDescription(lines.join(QStringLiteral(". ")));
+    setAccessibleDescription(lines.join(QLatin1Char('\n')));
 }
 
 void BreakView::press(BreakControl control) {

@@ -89,10 +89,8 @@ void HeadsUpView::refresh() {
     if (followed_.presence->value().left || followed_.answer->value().toast) {
         return;
     }
-    const auto& hold = state_.hold.value();
-    const bool waitsForHands = hold && std::holds_alternative<wumble::hold::Typing>(*hold);
     pet_.view().setDay(state_.today.value());
-    pet_.view().setMood(waitsForHands ? typingAlongMood(state_) : wumble::WumbleMood::peek);
+    pet_.view().setMood(isHeldByTyping(state_) ? typingAlongMood(state_) : wumble::WumbleMood::peek);
     Content fresh = content();
     if (fresh == content_) {
         return;
