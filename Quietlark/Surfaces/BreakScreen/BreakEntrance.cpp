@@ -43,6 +43,12 @@ EntrancePose entering(const BreakPart& part, double t, bool reduceMotion) {
 constexpr int lastWords = 4;
 constexpr double afterFormerWords = 0.2; ///< the place is free then
 
+/// When the first words after others come: with the reveal, but not before their place is free.
+std::optional<wumble::Date> wordsCalledAt(const WordTimes& times) {
+    const auto free = times.sceneAt ? std::optional(*times.sceneAt + afterFormerWords) : std::nullopt;
+    return std::max(times.revealAt, free);
+}
+
 double leaving(const BreakPart& part, double t) {
     return std::holds_alternative<part::Ground>(part) ? 1 - Motion::depart.value(t - groundStays)
                                                       : wordsLeaving(t);
@@ -60,11 +66,12 @@ EntrancePose wordsEntering(double t, bool reduceMotion) {
 
 EntrancePose wordPose(const WordTimes& times, int order, wumble::Date now) {
     EntrancePose pose = entrancePose(part::Words{order}, times.screen, now, times.reduceMotion);
+    const auto calledAt = wordsCalledAt(times);
     EntrancePose called;
     if (times.revealAt) {
-        called = wordsEntering(now - *times.revealAt - betweenWords * order, times.reduceMotion);
+        called = wordsEntering(now - *calledAt - betweenWords * order, times.reduceMotion);
     } else if (times.sceneAt && now >= *times.sceneAt) {
-        called = wordsEntering(now - *times.sceneAt - afterFormerWords, times.reduceMotion);
+        called = wordsEntering(now - *calledAt, times.reduceMotion);
     }
     pose.opacity *= called.opacity;
     pose.drop += called.drop;
@@ -81,11 +88,9 @@ double formerWords(const WordTimes& times, wumble::Date now) {
 
 wumble::Date wordsMovingUntil(const WordTimes& times) {
     wumble::Date until = movingUntil(part::Words{lastWords}, times.screen, times.reduceMotion);
-    if (times.sceneAt) {
-        until = std::max(until, *times.sceneAt + afterFormerWords + Motion::rise.duration);
-    }
-    if (times.revealAt) {
-        until = std::max(until, *times.revealAt + betweenWords * lastWords + Motion::rise.duration);
+    if (const auto calledAt = wordsCalledAt(times)) {
+        const double last = times.revealAt ? betweenWords * lastWords : 0;
+        until = std::max(until, *calledAt + last + Motion::rise.duration);
     }
     return until;
 }

@@ -18,9 +18,12 @@ constexpr double barGap = 16; ///< between the clock and what is below it
 constexpr double lockGap = 12;
 
 constexpr double controlSpacing = 12;
+constexpr double rowSpacing = 8;
 constexpr double controlHeight = 44;
 constexpr double footerHeight = 32;
-constexpr double smallestPet = 96;
+
+constexpr double leastPet = 40;         ///< a smaller one is none
+constexpr QSizeF roomForText(640, 400); ///< takes all of it at its usual size
 
 constexpr double afterPet = 4; ///< the pet's square has air under its foot
 constexpr double afterPetTagged = 20;
@@ -46,29 +49,46 @@ constexpr std::array<TitleSize, 3> titleSizes{
     {{TypeToken::breakTitle, 2}, {TypeToken::windowTitle, 4}, {TypeToken::title, 8}}};
 constexpr std::array<TitleSize, 2> otherTitleSizes{{{TypeToken::windowTitle, 2}, {TypeToken::title, 4}}};
 
-TextStyle titleStyle(const TitleSize& size) {
-    return {.token = size.token, .alignment = Qt::AlignHCenter, .mostLines = size.lines, .balanced = true};
-}
+/// What is given up where there is little room, row by row: the pet becomes small, then the air between things, then
+/// words are cut off, and at last the pet goes.
+struct Squeeze {
+    double smallestPet;
+    double air; ///< of what it is elsewhere
+    int titleLines;
+    int subtitleLines;
+    std::size_t titleSize; ///< place in the sizes
+};
 
-TextStyle subtitleStyle(TypeToken token) {
-    return {.token = token,
-            .ink = Role::textMuted,
+constexpr std::array<Squeeze, 5> squeezes{
+    {{96, 1, 8, 4, 0}, {96, 0.4, 8, 4, 0}, {72, 0.4, 3, 2, 1}, {48, 0.4, 2, 1, 2}, {0, 0.3, 1, 1, 2}}};
+
+TextStyle titleStyle(const TitleSize& size, int mostLines) {
+    return {.token = size.token,
             .alignment = Qt::AlignHCenter,
-            .mostLines = 4,
+            .mostLines = std::min(size.lines, mostLines),
             .balanced = true};
 }
 
-TextStyle fittingTitle(const QString& text, std::span<const TitleSize> sizes, double width,
+TextStyle subtitleStyle(TypeToken token, int mostLines) {
+    return {.token = token,
+            .ink = Role::textMuted,
+            .alignment = Qt::AlignHCenter,
+            .mostLines = mostLines,
+            .balanced = true};
+}
+
+TextStyle fittingTitle(const QString& text, std::span<const TitleSize> sizes, int mostLines, double width,
                        const Appearance& appearance) {
     for (const TitleSize& size : sizes) {
-        TextStyle roomier = titleStyle(size);
+        const TextStyle style = titleStyle(size, mostLines);
+        TextStyle roomier = style;
         ++roomier.mostLines;
-        const double height = measureText(text, titleStyle(size), width, appearance).height();
+        const double height = measureText(text, style, width, appearance).height();
         if (measureText(text, roomier, width, appearance).height() <= height) {
-            return titleStyle(size);
+            return style;
         }
     }
-    return titleStyle(sizes.back());
+    return titleStyle(sizes.back(), mostLines);
 }
 
 /// Puts things one below the other, each in the middle.
@@ -108,20 +128,37 @@ public:
         : content_(content), sizes_(sizes), window_(window), appearance_(appearance) {}
 
     BreakLayout lay() {
-        layBar();
-        double pet = content_.petSize;
-        double top = restingTop(pet);
-        const double room = window_.height() - bottomMargin;
-        if (const double over = layColumn(top, pet) - room; over > 0) {
-            const double least = barBottom_ - pet * petAir;
-            const double up = std::min(over, std::max(0.0, top - least));
-            pet = std::max(smallestPet, pet - (over - up));
-            layColumn(top - up, pet);
+        for (const Squeeze& squeeze : squeezes) {
+            squeeze_ = squeeze;
+            if (layAll()) {
+                break;
+            }
         }
         return std::move(layout_);
     }
 
 private:
+    /// Whether all of it has found its place.
+    bool layAll() {
+        layBar();
+        const double pet = content_.petSize;
+        const double top = restingTop(pet);
+        const double room = window_.height() - air(bottomMargin);
+        const double over = layColumn(top, pet) - room;
+        if (over <= 0) {
+            return true;
+        }
+        const double least = barBottom_ - pet * petAir;
+        const double up = std::min(over, std::max(0.0, top - least));
+        // The smaller it is, the less air it has above its head.
+        const double fitting = std::floor(pet - (over - up) / (1 - petAir));
+        const bool isTooSmall = squeeze_.smallestPet == 0 && fitting < leastPet;
+        const double smaller = isTooSmall ? 0 : std::max(squeeze_.smallestPet, fitting);
+        return layColumn(top - up + (pet - smaller) * petAir, smaller) <= room;
+    }
+
+    double air(double points) const { return std::round(points * squeeze_.air); }
+
     static constexpr double petAir = 0.2; ///< of its size, above its head
 
     bool isPrimary() const { return content_.isPrimary; }
@@ -132,11 +169,11 @@ private:
     /// Where the pet begins on a usual break, whatever is shown now.
     double restingTop(double pet) const {
         const double words = isPrimary()
-                                 ? lineHeight(TypeToken::breakTitle) + afterTitle +
-                                       lineHeight(TypeToken::lead) + beforeRing + sizes_.ring.height() +
-                                       beforeControls + controlHeight + beforeFooter + footerHeight
+                                 ? lineHeight(TypeToken::breakTitle) + air(afterTitle) +
+                                       lineHeight(TypeToken::lead) + air(beforeRing) + sizes_.ring.height() +
+                                       air(beforeControls) + controlHeight + air(beforeFooter) + footerHeight
                                  : lineHeight(TypeToken::numeral);
-        const double whole = pet + afterPet + words;
+        const double whole = pet + air(afterPet) + words;
         return std::max(std::round((window_.height() - whole) / 2), barBottom_ - pet * petAir);
     }
 
@@ -148,16 +185,16 @@ private:
         const double width = std::ceil(clock.width());
         const double height = std::max(clock.height(), sizes_.lock.height());
         const double middle = std::round(window_.width() / 2);
-        layout_.clock = {
-            .place = {middle - width / 2, topMargin + (height - clock.height()) / 2, width, clock.height()},
-            .text = text,
-            .style = style,
-            .order = order::footer};
+        layout_.clock = {.place = {middle - width / 2, air(topMargin) + (height - clock.height()) / 2, width,
+                                   clock.height()},
+                         .text = text,
+                         .style = style,
+                         .order = order::footer};
         // The clock stays in the middle when the button goes.
         const double left =
             clock.isEmpty() ? middle - lock.width() / 2 : layout_.clock.place.right() + lockGap;
-        layout_.lock = {QPointF(std::round(left), topMargin + (height - lock.height()) / 2), lock};
-        barBottom_ = topMargin + height + barGap;
+        layout_.lock = {QPointF(std::round(left), air(topMargin) + (height - lock.height()) / 2), lock};
+        barBottom_ = air(topMargin) + height + air(barGap);
     }
 
     /// Gives its lower end.
@@ -167,14 +204,15 @@ private:
         layout_.pet = column.place({pet, pet});
         const bool isTagged = !content_.tag.empty() || content_.streak;
         layTags();
-        column.skip(isTagged ? afterPetTagged : afterPet);
+        const double hanging = std::max(sizes_.tag.height(), sizes_.chip.height()) / 2 - tagBelowPet * pet;
+        column.skip(isTagged ? std::max(air(afterPetTagged), std::ceil(hanging) + afterPet) : air(afterPet));
         layWords(column);
         if (content_.ring) {
-            column.skip(beforeRing);
+            column.skip(air(beforeRing));
             layout_.ring = column.place(sizes_.ring);
         }
         if (content_.showsDots) {
-            column.skip(beforeDots);
+            column.skip(air(beforeDots));
             layout_.dots = column.place(sizes_.dots);
         }
         if (isPrimary()) {
@@ -189,12 +227,15 @@ private:
             const std::span<const TitleSize> sizes = isPrimary()
                                                          ? std::span<const TitleSize>(titleSizes)
                                                          : std::span<const TitleSize>(otherTitleSizes);
-            const auto style = fittingTitle(text, sizes, column.widthFor(widestTitle), appearance_);
+            const auto style =
+                fittingTitle(text, sizes.subspan(std::min(squeeze_.titleSize, sizes.size() - 1)),
+                             squeeze_.titleLines, column.widthFor(widestTitle), appearance_);
             layout_.words.push_back(column.words(text, style, widestTitle, order::title));
         }
         if (!content_.subtitle.empty()) {
-            column.skip(afterTitle);
-            const auto style = subtitleStyle(isPrimary() ? TypeToken::lead : TypeToken::body);
+            column.skip(air(afterTitle));
+            const auto style =
+                subtitleStyle(isPrimary() ? TypeToken::lead : TypeToken::body, squeeze_.subtitleLines);
             layout_.words.push_back(
                 column.words(QString::fromStdString(content_.subtitle), style, widestLine, order::subtitle));
         }
@@ -206,40 +247,57 @@ private:
     }
 
     void layFoot(Column& column) {
-        column.skip(beforeControls);
-        layControls(column.bottom());
-        column.skip(std::max(controlHeight, tallestControl()));
-        column.skip(beforeFooter);
+        column.skip(air(beforeControls));
+        const double below = layControls(column.bottom());
+        column.skip(std::max(controlHeight, below - column.bottom()));
+        column.skip(air(beforeFooter));
         const auto style = footerStyle(content_.footerIsHint);
         const auto text = QString::fromStdString(content_.footer);
-        const double height = std::max(footerHeight, lineHeight(style.token) + 8);
         const double width = column.widthFor(widestTitle);
-        layout_.footer = {
-            .place = column.place({width, height}), .text = text, .style = style, .order = order::footer};
+        const double words =
+            std::max(lineHeight(style.token), measureText(text, style, width, appearance_).height());
+        layout_.footer = {.place = column.place({width, std::max(footerHeight, std::ceil(words) + 8)}),
+                          .text = text,
+                          .style = style,
+                          .order = order::footer};
     }
 
-    double tallestControl() const {
-        double tallest = 0;
-        for (const QSizeF& size : sizes_.controls) {
-            tallest = std::max(tallest, size.height());
+    /// As many side by side as there is room for. Gives their lower end.
+    double layControls(double top) {
+        layout_.controls.clear();
+        layout_.confetti = {0, 0, window_.width(), top + shelf};
+        const double most = window_.width() - 2 * controlSpacing;
+        double bottom = top - rowSpacing;
+        for (std::size_t first = 0; first < sizes_.controls.size();) {
+            double width = sizes_.controls[first].width();
+            std::size_t end = first + 1;
+            for (; end < sizes_.controls.size(); ++end) {
+                const double wider = width + controlSpacing + sizes_.controls[end].width();
+                if (wider > most) {
+                    break;
+                }
+                width = wider;
+            }
+            bottom += rowSpacing;
+            bottom += layRow(std::span(sizes_.controls).subspan(first, end - first), width, bottom);
+            first = end;
         }
-        return tallest;
+        return std::max(bottom, top);
     }
 
-    void layControls(double top) {
-        const double row = std::max(controlHeight, tallestControl());
-        double width = -controlSpacing;
-        for (const QSizeF& size : sizes_.controls) {
-            width += size.width() + controlSpacing;
+    /// Gives its height.
+    double layRow(std::span<const QSizeF> sizes, double width, double top) {
+        double height = controlHeight;
+        for (const QSizeF& size : sizes) {
+            height = std::max(height, size.height());
         }
         double x = std::round((window_.width() - width) / 2);
-        layout_.controls.clear();
-        for (const QSizeF& size : sizes_.controls) {
-            layout_.controls.emplace_back(x, top + std::round((row - size.height()) / 2), size.width(),
+        for (const QSizeF& size : sizes) {
+            layout_.controls.emplace_back(x, top + std::round((height - size.height()) / 2), size.width(),
                                           size.height());
             x += size.width() + controlSpacing;
         }
-        layout_.confetti = {0, 0, window_.width(), top + shelf};
+        return height;
     }
 
     /// Pinned to the pet's foot, side by side.
@@ -259,6 +317,7 @@ private:
     QSizeF window_;
     const Appearance& appearance_;
     BreakLayout layout_;
+    Squeeze squeeze_ = squeezes.front();
     double barBottom_ = 0;
 };
 
@@ -268,10 +327,16 @@ QRect WordBlock::reach() const {
     return place.toAlignedRect().adjusted(-wordsReach, -wordsReach, wordsReach, wordsReach);
 }
 
+double largestText(const QSizeF& window) {
+    return std::max(1.0,
+                    std::min(window.width() / roomForText.width(), window.height() / roomForText.height()));
+}
+
 TextStyle footerStyle(bool isHint) {
     return {.token = TypeToken::body,
             .ink = isHint ? Role::onSelected : Role::textMuted,
             .alignment = Qt::AlignCenter,
+            .mostLines = 2,
             .weight = isHint ? std::optional(QFont::Bold) : std::nullopt};
 }
 

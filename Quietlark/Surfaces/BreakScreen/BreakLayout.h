@@ -57,6 +57,9 @@ inline constexpr int footer = 4;
 BreakLayout layoutBreak(const BreakContent& content, const BreakSizes& sizes, const QSizeF& window,
                         const Appearance& appearance);
 
+/// How large text may be there at most, as a multiple of its usual size: beyond it there is no room for all of it.
+double largestText(const QSizeF& window);
+
 /// The style of a footer, and of one that is a hint on its capsule.
 TextStyle footerStyle(bool isHint);
 

@@ -107,6 +107,7 @@ void BreakView::followModel() {
 BreakGround::Look BreakView::look() const {
     Appearance appearance = setup_.context.appearance.value();
     appearance.dark = true;
+    appearance.textScale = std::min(appearance.textScale, largestText(setup_.screen.frame.size()));
     return {.style = setup_.context.model.state().settings.value().breakScreenStyle,
             .appearance = appearance,
             .blends = setup_.context.host.blends()};

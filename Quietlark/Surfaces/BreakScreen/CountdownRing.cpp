@@ -6,6 +6,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quietlark {
@@ -19,9 +20,26 @@ constexpr double trackInset = 12; ///< from the edge of the disc to the middle o
 constexpr double outline = 1.5;
 constexpr double contrastOutline = 2.5;
 constexpr double smallStep = 1.0 / 300; ///< of the whole ring: a point along it
-constexpr std::size_t widestLarge = 5;  ///< letters: "12:34"
+constexpr qsizetype widestLarge = 5;    ///< letters: "12:34"
+constexpr double farApart = 1e4;        ///< wide enough for any label
 
 constexpr wumble::Motion::Curve easing{.duration = 0.25, .x1 = 0.25, .y1 = 0.1, .x2 = 0.25, .y2 = 1};
+
+/// Smaller where the ring is too narrow for it.
+void drawLabel(QPainter& painter, const QRectF& room, const QString& label, const Appearance& appearance) {
+    const TextStyle style{.token =
+                              label.size() > widestLarge ? TypeToken::numeralSmall : TypeToken::numeralMedium,
+                          .alignment = Qt::AlignCenter};
+    const QSizeF size = measureText(label, style, farApart, appearance);
+    const double scale = std::min(1.0, room.width() / size.width());
+    QRectF place(QPointF(), size + QSizeF(2, 0));
+    place.moveCenter({0, 0});
+    painter.save();
+    painter.translate(room.center());
+    painter.scale(scale, scale);
+    drawText(painter, place, label, style, appearance);
+    painter.restore();
+}
 
 void drawRing(QPainter& painter, const QRectF& place, double progress, const std::string& label,
               const Appearance& appearance) {
@@ -38,11 +56,8 @@ void drawRing(QPainter& painter, const QRectF& place, double progress, const std
         painter.setPen(QPen(colour(Role::go, appearance), trackWidth, Qt::SolidLine, Qt::RoundCap));
         painter.drawArc(track, 90 * 16, static_cast<int>(std::lround(-progress * 360 * 16)));
     }
-    const TextStyle style{.token =
-                              label.size() > widestLarge ? TypeToken::numeralSmall : TypeToken::numeralMedium,
-                          .alignment = Qt::AlignCenter};
-    drawText(painter, track.adjusted(trackWidth, 0, -trackWidth, 0), QString::fromStdString(label), style,
-             appearance);
+    drawLabel(painter, track.adjusted(trackWidth, 0, -trackWidth, 0), QString::fromStdString(label),
+              appearance);
 }
 
 } // namespace

@@ -74,13 +74,24 @@ std::string longTitle() {
 TEST(BreakLayout, nothingIsCutOffOrLiesOverAnotherThing) {
     const std::vector<BreakContent> contents{rest("Breathe"), rest(longTitle()), rest(std::string(200, 'w')),
                                              rest("خذ استراحة قصيرة وانظر بعيدا عن الشاشة"), reveal()};
-    for (const QSizeF window :
-         {QSizeF(1280, 800), QSizeF(1366, 768), QSizeF(3840, 2160), QSizeF(1080, 1920)}) {
-        for (const double scale : {1.0, large}) {
-            for (const BreakContent& content : contents) {
-                const Appearance look{.dark = true, .textScale = scale};
-                expectTidy(layoutBreak(content, sizes(content.controls.size(), scale), window, look), window);
-            }
+    struct Desk {
+        QSizeF window;
+        double textScale;
+    };
+    for (const auto& [window, wanted] : std::vector<Desk>{{{1280, 800}, 1},
+                                                          {{1280, 800}, large},
+                                                          {{1280, 800}, 3},
+                                                          {{1366, 768}, large},
+                                                          {{3840, 2160}, large},
+                                                          {{1080, 1920}, large},
+                                                          {{800, 450}, large},
+                                                          {{640, 400}, 1},
+                                                          {{400, 450}, 1}}) {
+        const double scale = std::min(wanted, largestText(window));
+        for (const BreakContent& content : contents) {
+            SCOPED_TRACE(std::to_string(window.width()) + " " + std::to_string(scale) + " " + content.title);
+            const Appearance look{.dark = true, .textScale = scale};
+            expectTidy(layoutBreak(content, sizes(content.controls.size(), scale), window, look), window);
         }
     }
 }
