@@ -76,6 +76,7 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
       termination_([] { QCoreApplication::quit(); }),
       processEnd_([this] { model_.prepareForTermination(); }) {
     model_.openCollage = [this](auto period, auto date) { settings().presentCrew({period, date}); };
+    WumbleView::onPoke = [this](wumble::WumbleGesture gesture) { model_.petWasPoked(gesture); };
     WumbleView::desktopPointer = [this] { return host_->pointer(); };
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeActivation([this] { reopen(); });
@@ -94,6 +95,7 @@ void AppDelegate::beginWhenTheDesktopHasAnswered(const command::RunApplication& 
 
 void AppDelegate::begin(const command::RunApplication& options) {
     model_.start(AppModel::Running::ticking);
+    surfaces_.prepare();
     carryOut(options);
     if (isWelcomed()) {
         model_.greetToday();
@@ -132,6 +134,7 @@ void AppDelegate::showWelcome() {
 
 AppDelegate::~AppDelegate() {
     WumbleView::desktopPointer = nullptr;
+    WumbleView::onPoke = nullptr;
     model_.prepareForTermination();
 }
 

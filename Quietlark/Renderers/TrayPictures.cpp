@@ -1,10 +1,11 @@
 #include "Quietlark/Renderers/PetSheets.h"
+#include "Quietlark/Renderers/PressNamed.h"
 #include "Quietlark/Renderers/PreviewStage.h"
 #include "Quietlark/Renderers/Sheet.h"
 #include "Quietlark/Surfaces/Tray/StatusItemController.h"
 
-#include <QAbstractButton>
 #include <QApplication>
+#include <QWidget>
 
 #include <array>
 #include <string>
@@ -55,15 +56,10 @@ struct Show {
     /// Presses the button of that name in the popover.
     void press(std::string_view name) {
         open();
-        for (QWidget* root : QApplication::topLevelWidgets()) {
-            for (auto* button : root->findChildren<QAbstractButton*>()) {
-                if (button->accessibleName() ==
-                        QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())) &&
-                    root->objectName() == QLatin1String(popover)) {
-                    button->click();
-                    stage.advance(0.1);
-                    return;
-                }
+        for (const QWidget* root : QApplication::topLevelWidgets()) {
+            if (root->objectName() == QLatin1String(popover) && pressNamed(*root, name)) {
+                stage.advance(0.1);
+                return;
             }
         }
     }
@@ -90,7 +86,7 @@ void allowSkips(wumble::WumbleSettings& settings) {
 void onlyInTheAfternoon(wumble::WumbleSettings& settings) {
     settings.officeHoursEnabled = true;
     for (auto& day : settings.officeHours) {
-        day.startMinute = 13 * 60;
+        day.startMinute = wumble::Counter{13} * 60;
     }
 }
 

@@ -1,11 +1,10 @@
 #include "Quietlark/Renderers/PetSheets.h"
+#include "Quietlark/Renderers/PressNamed.h"
 #include "Quietlark/Renderers/PreviewStage.h"
 #include "Quietlark/Renderers/Sheet.h"
 #include "Quietlark/Settings/SettingsView.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Welcome/WelcomeView.h"
-
-#include <QAbstractButton>
 
 #include <array>
 #include <string>
@@ -19,18 +18,9 @@ struct NoLogin final : LoginItem {
     bool isEnabled() const override { return false; }
     bool canRegister() const override { return false; }
     std::optional<std::string> set(bool) override {
-        return "Open at login only works for the copy of Quietlark in Applications.";
+        return "Open at login only works for an installed copy of Quietlark.";
     }
 };
-
-QAbstractButton* button(QWidget& root, std::string_view name) {
-    for (auto* candidate : root.findChildren<QAbstractButton*>()) {
-        if (candidate->accessibleName().toStdString() == name) {
-            return candidate;
-        }
-    }
-    return nullptr;
-}
 
 struct Scene {
     const char* name;
@@ -62,9 +52,7 @@ QImage picture(const Scene& scene, const Appearance& appearance, double scale) {
     view.refresh();
     view.show();
     for (const std::string_view name : scene.presses) {
-        if (QAbstractButton* pressed = button(view, name)) {
-            pressed->click();
-        }
+        pressNamed(view, name);
     }
     stage.advance(0.5);
     return drawn(view, scale);

@@ -117,10 +117,10 @@ QWidget* SettingsView::longEveryRow() {
     constexpr auto& counts = wumble::WumbleSettings::longBreakEveryChoices;
     auto* made = new Segments;
     const auto lengths = [this] {
-        std::vector<double> all;
-        for (const wumble::Counter count : counts) {
-            all.push_back(settings().workInterval * static_cast<double>(count));
-        }
+        std::vector<double> all(counts.size());
+        std::ranges::transform(counts, all.begin(), [this](wumble::Counter count) {
+            return settings().workInterval * static_cast<double>(count);
+        });
         return all;
     };
     made->setChoices(durations(lengths()));

@@ -12,6 +12,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 #include <unistd.h>
 
 #include <xcb/damage.h>
@@ -24,8 +25,9 @@ using Moment = Clock::time_point;
 
 /// A thread that didn't run for so long was at rest; what it does within one round has no such gaps.
 constexpr std::chrono::milliseconds rest{100};
+constexpr std::chrono::microseconds betweenLooks{200}; ///< which leave the processor to what is watched
 constexpr std::chrono::seconds longestWait{60};
-constexpr std::chrono::seconds longestFrame{2};
+constexpr std::chrono::seconds longestFrame{1};
 
 /// Sees when a thread that was at rest begins to run.
 class Wakes {
@@ -186,6 +188,7 @@ int main(int argumentCount, char** arguments) {
             wakes.look();
             due = wakes.last();
         }
+        std::this_thread::sleep_for(betweenLooks);
     }
     if (!seen || !seen->full) {
         std::fputs("break-watch: no break came\n", stderr);

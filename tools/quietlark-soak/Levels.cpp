@@ -6,8 +6,8 @@
 #include <QDBusConnectionInterface>
 
 #include <algorithm>
+#include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <malloc.h>
 #include <unistd.h>
 
@@ -23,15 +23,16 @@ long entriesOf(const char* folder) {
     return std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator());
 }
 
-/// In KiB.
+/// In KiB; the kernel doesn't always find the time to tell.
 long privateMemory() {
-    std::ifstream rollup("/proc/self/smaps_rollup");
-    for (std::string word; rollup >> word;) {
-        if (long kibibytes = 0; word == "Private_Dirty:" && rollup >> kibibytes) {
-            return kibibytes;
+    long kibibytes = 0;
+    if (std::FILE* rollup = std::fopen("/proc/self/smaps_rollup", "r")) {
+        for (char line[256]; std::fgets(line, sizeof line, rollup) != nullptr;) {
+            std::sscanf(line, "Private_Dirty: %ld", &kibibytes);
         }
+        std::fclose(rollup);
     }
-    return 0;
+    return kibibytes;
 }
 
 bool isSanitized() {

@@ -37,20 +37,13 @@ std::string noun(const wumble::SmartActivity& activity) {
 }
 
 const wumble::SmartActivity* activityHeldFor(const AppState& state) {
-    const auto& hold = state.hold.value();
-    const auto* smart = hold ? std::get_if<wumble::hold::Smart>(&*hold) : nullptr;
+    const auto* smart = holdOf<wumble::hold::Smart>(state);
     return smart != nullptr ? &smart->activity : nullptr;
-}
-
-bool isHeldByTyping(const AppState& state) {
-    const auto& hold = state.hold.value();
-    return hold && std::holds_alternative<wumble::hold::Typing>(*hold);
 }
 
 /// Seconds until a wait after an activity is over; absent without one.
 std::optional<double> cooldown(const AppState& state) {
-    const auto& hold = state.hold.value();
-    const auto* cooling = hold ? std::get_if<wumble::hold::Cooldown>(&*hold) : nullptr;
+    const auto* cooling = holdOf<wumble::hold::Cooldown>(state);
     return cooling != nullptr ? std::optional(std::max(cooling->until - state.now.value(), 0.0))
                               : std::nullopt;
 }
