@@ -9,8 +9,8 @@
 
 namespace quietlark {
 
-CrewCard::CrewCard(AppModel& model, QWidget* parent)
-    : PaperCard(parent), model_(model), shelf_(new CrewShelf),
+CrewCard::CrewCard(AppModel& model)
+    : model_(model), shelf_(new CrewShelf),
       summary_(new TextBlock({}, {.token = TypeToken::body, .mostLines = 4})),
       totals_(new TextBlock({}, {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 3})) {
     column()->addWidget(new TextBlock(text(CrewWords::yourCrew), {.token = TypeToken::title}));

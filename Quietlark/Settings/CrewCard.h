@@ -12,7 +12,7 @@ class TextBlock;
 class CrewCard : public PaperCard {
 public:
     /// The model must outlive it. It shows the week of now.
-    explicit CrewCard(AppModel& model, QWidget* parent = nullptr);
+    explicit CrewCard(AppModel& model);
 
     /// From then on the recap around that date, which counts as seen.
     void show(const CrewAnchor& anchor);
