@@ -189,12 +189,16 @@ QWidget* ActionsArea::pauses() {
 }
 
 void ActionsArea::toggle(Fold fold) {
-    unfolded_ = unfolded_ == fold ? Fold::none : fold;
+    unfold(unfolded_ == fold ? Fold::none : fold);
+    changedSize(unfolded_ == Fold::none ? nullptr : folds_.at(unfolded_));
+}
+
+void ActionsArea::unfold(Fold fold) {
+    unfolded_ = fold;
     for (const auto& [each, widget] : folds_) {
         widget->setVisible(each == unfolded_);
         marks_[each](each == unfolded_);
     }
-    changedSize();
 }
 
 } // namespace quietlark

@@ -24,7 +24,11 @@ public:
     /// The same actions keep their buttons, whatever their words become.
     void setRows(const std::vector<TrayWords::ActionRow>& rows);
 
-    std::function<void()> changedSize = [] {};
+    /// Without calling `changedSize`.
+    void foldUp() { unfold(Fold::none); }
+
+    /// Called when something was unfolded, or folded: then with nothing.
+    std::function<void(QWidget* unfolded)> changedSize = [](auto) {};
 
 private:
     enum class Fold { none, otherBreaks, pauses };
@@ -37,6 +41,7 @@ private:
     QWidget* otherBreaks();
     QWidget* pauses();
     void toggle(Fold fold);
+    void unfold(Fold fold);
 
     AppModel& model_;
     std::vector<TrayWords::ActionRow> rows_;

@@ -29,6 +29,7 @@ namespace {
 
 constexpr int edge = 2;     ///< of air around the card
 constexpr int padding = 9;  ///< inside it; what stands there has a margin of its own
+constexpr int clear = 3;    ///< of the outline, above and below
 constexpr int groupGap = 2; ///< between groups, beside those margins
 constexpr int usualWidth = 336;
 constexpr double inset = 2; ///< of the dots from the outline
@@ -76,7 +77,7 @@ MenuView::MenuView(const SurfaceContext& context, const TrayDoors& doors)
     setObjectName(QStringLiteral("popover"));
     setAccessibleName(QStringLiteral("Quietlark"));
     auto* column = new QVBoxLayout(page_);
-    column->setContentsMargins(padding, padding, padding, padding);
+    column->setContentsMargins(padding, padding - clear, padding, padding - clear);
     column->setSpacing(groupGap);
     status_ = new StatusCard;
     slot_ = new SlotRow;
@@ -91,10 +92,16 @@ MenuView::MenuView(const SurfaceContext& context, const TrayDoors& doors)
     page_->setAutoFillBackground(false);
     slot_->dontWait = [this] { context_.model.ignoreSmartPause(); };
     slot_->waitAgain = [this] { waitAgain(); };
-    actions_->changedSize = meta_->changedSize = [this] { settle(); };
+    actions_->changedSize = [this](QWidget* unfolded) {
+        showUnfolded(unfolded, [this] { meta_->foldUp(); });
+    };
+    meta_->changedSize = [this](QWidget* unfolded) {
+        showUnfolded(unfolded, [this] { actions_->foldUp(); });
+    };
     auto* whole = new QVBoxLayout(this);
-    whole->setContentsMargins(edge, edge, edge + static_cast<int>(Lift::floating),
-                              edge + static_cast<int>(Lift::floating));
+    constexpr int lift = static_cast<int>(Lift::floating);
+    // What is scrolled stays clear of the outline.
+    whole->setContentsMargins(edge, edge + clear, edge + lift, edge + clear + lift);
     whole->addWidget(scroll_);
 }
 
@@ -157,6 +164,17 @@ void MenuView::waitAgain() {
             settle();
         }
     });
+}
+
+/// One thing is unfolded at a time, and on a small screen it is scrolled to.
+void MenuView::showUnfolded(QWidget* unfolded, const std::function<void()>& foldOthers) {
+    if (unfolded != nullptr) {
+        foldOthers();
+    }
+    settle();
+    if (unfolded != nullptr) {
+        scroll_->ensureWidgetVisible(unfolded, 0, padding);
+    }
 }
 
 /// The size follows what is there now, at once: a popover that grows a frame later flickers.

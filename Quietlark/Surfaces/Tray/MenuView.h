@@ -52,6 +52,7 @@ private:
     QWidget* header();
     void refreshHeader();
     void waitAgain();
+    void showUnfolded(QWidget* unfolded, const std::function<void()>& foldOthers);
     void settle();
     int pageWidth() const;
 

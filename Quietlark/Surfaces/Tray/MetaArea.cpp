@@ -93,7 +93,7 @@ MenuRow* MetaArea::folded(std::string_view label, std::function<void()> chosen) 
 
 void MetaArea::toggleFold() {
     fold_->setVisible(fold_->isHidden());
-    changedSize();
+    changedSize(fold_->isHidden() ? nullptr : fold_);
 }
 
 void MetaArea::refresh() {

@@ -20,7 +20,11 @@ public:
 
     void refresh();
 
-    std::function<void()> changedSize = [] {};
+    /// Without calling `changedSize`.
+    void foldUp() { fold_->hide(); }
+
+    /// Called when something was unfolded, or folded: then with nothing.
+    std::function<void(QWidget* unfolded)> changedSize = [](auto) {};
 
 private:
     QWidget* countsRow();

@@ -1,5 +1,6 @@
 #include "Quietlark/Surfaces/Tray/SlotRow.h"
 
+#include "Quietlark/Surfaces/SpokenText.h"
 #include "Quietlark/Surfaces/TextBlock.h"
 #include "Quietlark/Surfaces/Tray/ReadingOrder.h"
 #include "Quietlark/Surfaces/Tray/Refill.h"
@@ -7,6 +8,7 @@
 #include "Quietlark/Theme/Text.h"
 
 #include <QHBoxLayout>
+#include <QVBoxLayout>
 
 namespace quietlark {
 
@@ -66,13 +68,29 @@ void SlotRow::add(const TrayWords::slot::DontWait& offer) {
 }
 
 void SlotRow::add(const TrayWords::slot::NotWaiting& controls) {
-    addWords(text(TrayWords::notWaitingHowLong));
+    addNotWaiting();
     auto* undo = new StickerButton(text(TrayWords::waitAgain), StickerButton::Kind::plain);
     undo->setSymbol(Symbol::undo);
     undo->setToolTip(text(TrayWords::waitAgainHelp(controls.activity)));
     undo->setAccessibleDescription(text(TrayWords::waitAgainHelp(controls.activity)));
     QObject::connect(undo, &QAbstractButton::clicked, this, [this] { waitAgain(); });
     layout()->addWidget(undo);
+}
+
+/// In two short lines, since one long one would break beside the button; spoken it is one.
+void SlotRow::addNotWaiting() {
+    auto* both = new QWidget;
+    both->setAccessibleName(text(TrayWords::notWaitingHowLong));
+    readAsText(*both);
+    auto* column = new QVBoxLayout(both);
+    column->setContentsMargins(PressControl::margin, 0, 0, 0);
+    column->setSpacing(0);
+    column->addStretch(1);
+    column->addWidget(new TextBlock(text(TrayWords::notWaiting), {.weight = QFont::DemiBold}));
+    column->addWidget(
+        new TextBlock(text(TrayWords::tillNextBreak), {.token = TypeToken::callout, .ink = Role::textMuted}));
+    column->addStretch(1);
+    static_cast<QHBoxLayout*>(layout())->addWidget(both, 1);
 }
 
 void SlotRow::add(const TrayWords::slot::ShareKeepsWaiting& note) { addWords(text(note.text)); }

@@ -30,6 +30,7 @@ private:
     void add(const TrayWords::slot::DontWait& offer);
     void add(const TrayWords::slot::NotWaiting& controls);
     void add(const TrayWords::slot::ShareKeepsWaiting& note);
+    void addNotWaiting();
     void addWords(const QString& words);
 
     TrayWords::Slot slot_;

@@ -3,6 +3,7 @@
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Role.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QScrollBar>
 
@@ -15,6 +16,7 @@ namespace {
 constexpr int barWidth = 12;
 constexpr double thumbWidth = 6;
 constexpr double shortestThumb = 28;
+constexpr double ends = 8; ///< free above and below, where paper has round corners
 
 class Bar : public QScrollBar {
 public:
@@ -34,12 +36,13 @@ protected:
 
 private:
     QRectF thumb() const {
+        const double room = height() - 2 * ends;
         const double whole = maximum() - minimum() + pageStep();
         const double length =
-            std::clamp(height() * pageStep() / std::max(whole, 1.0), shortestThumb, height() * 1.0);
-        const double way = height() - length;
-        const double top = maximum() > minimum() ? way * (value() - minimum()) / (maximum() - minimum()) : 0;
-        return {(width() - thumbWidth) / 2, top, thumbWidth, length};
+            std::max(room * pageStep() / std::max(whole, 1.0), std::min(shortestThumb, room));
+        const double share =
+            maximum() > minimum() ? 1.0 * (value() - minimum()) / (maximum() - minimum()) : 0;
+        return {(width() - thumbWidth) / 2, ends + (room - length) * share, thumbWidth, length};
     }
 };
 
@@ -61,6 +64,8 @@ void PaperScroll::fitBar() {
                        : paper->hasHeightForWidth() ? paper->heightForWidth(width())
                                                     : paper->sizeHint().height();
     setVerticalScrollBarPolicy(wanted > height() ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    QEvent request(QEvent::LayoutRequest); // or the paper would get its new size a moment later
+    QScrollArea::event(&request);
 }
 
 void PaperScroll::resizeEvent(QResizeEvent* event) {

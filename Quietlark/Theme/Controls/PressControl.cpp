@@ -5,6 +5,7 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 #include <cmath>
 
@@ -79,6 +80,18 @@ void PressControl::keyPressEvent(QKeyEvent* event) {
         QAbstractButton::keyPressEvent(event);
     } else if (!event->isAutoRepeat()) {
         click();
+    }
+}
+
+void PressControl::mousePressEvent(QMouseEvent* event) {
+    wasPressed_ = true;
+    QAbstractButton::mousePressEvent(event);
+}
+
+/// The second press of a double click whose first was on what stood here before isn't for this.
+void PressControl::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (wasPressed_) {
+        QAbstractButton::mouseDoubleClickEvent(event);
     }
 }
 

@@ -31,6 +31,8 @@ protected:
 
     bool hitButton(const QPoint& position) const override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
@@ -42,6 +44,7 @@ private:
 
     QVariantAnimation way_;
     bool isOver_ = false;
+    bool wasPressed_ = false;
     bool focusByKeyboard_ = false;
 };
 

@@ -75,21 +75,6 @@ TEST_F(WelcomeTest, whatWasPickedBecomesTheRhythm) {
     EXPECT_EQ(settings().nudgesBetween, 2);
 }
 
-TEST_F(WelcomeTest, lookingAroundLeavesTheBreaksOff) {
-    press("Take a look around");
-    EXPECT_TRUE(isWelcomed());
-    EXPECT_TRUE(isStopped());
-    EXPECT_FALSE(welcome->isOpen());
-}
-
-TEST_F(WelcomeTest, closingItHalfWayAsksAgainAtTheNextStart) {
-    press("every 45 min");
-    welcome->window().close();
-    EXPECT_FALSE(isWelcomed());
-    EXPECT_EQ(settings().workInterval, 1200);
-    EXPECT_FALSE(driver.launch().state().life.value().welcomed.value_or(true));
-}
-
 TEST_F(WelcomeTest, aPreviewDoesNotEndTheWelcome) {
     press("Preview a break");
     const auto& phase = driver.state().phase.value();
