@@ -48,6 +48,9 @@ NoteSetting settingFor(const NudgeGeometry::Panel& panel, double scale, wumble::
                        const QProperty<Appearance>& appearance) {
     NoteSetting setting{
         .card = panel.card, .radius = Radius::card * scale, .refreshRate = screen.refreshRate};
+    if (entrance != wumble::NoteEntrance::eye) {
+        setting.anchor = NoteStage::roomiest;
+    }
     if (entrance == wumble::NoteEntrance::hang) {
         setting.hang = [card = panel.card, scale](double elapsed) {
             return NudgeGeometry::swing(card, scale, elapsed);
