@@ -4,6 +4,7 @@
 #include "Quietlark/Pet/WumbleView.h"
 #include "Quietlark/Platform/Linux/Hosting/SurfaceHosts.h"
 #include "Quietlark/Platform/Linux/LinuxPlatform.h"
+#include "Quietlark/QtMainLoop.h"
 #include "Quietlark/SystemCalendar.h"
 #include "WumbleCore/Storage/DataFolderLock.h"
 #include "WumbleCore/Storage/Storage.h"
@@ -52,8 +53,9 @@ std::unique_ptr<SurfaceHost> hostYieldingToLocks(Platform& platform) {
 
 } // namespace
 
-AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options)
-    : platform_(makeLinuxPlatform(loop_)), accessibility_(*platform_.announcer, *platform_.look),
+AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options,
+                         MainLoop& loop, Platform platform)
+    : loop_(loop), platform_(std::move(platform)), accessibility_(*platform_.announcer, *platform_.look),
       host_(hostYieldingToLocks(platform_)), sounds_(*platform_.soundOutput),
       model_(folder, {.mainLoop = loop_,
                       .platform = platform_,
@@ -61,19 +63,20 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                       .loginItem = platform_.loginItem.get(),
                       .accessibility = &accessibility_,
                       .calendar = systemCalendar()}),
-      surfaces_(
-          {.model = model_,
-           .loop = loop_,
-           .host = *host_,
-           .windows = *platform_.windows,
-           .screenLock = platform_.screenLock.get(),
-           .accessibility = &accessibility_,
-           .desktopLook = platform_.look.get(),
-           .tray = platform_.tray.get(),
-           .doors = {.openSettings = [this] { showSettings(); }, .quit = [] { QCoreApplication::quit(); }}}),
+      surfaces_({.model = model_,
+                 .loop = loop_,
+                 .host = *host_,
+                 .windows = *platform_.windows,
+                 .screenLock = platform_.screenLock.get(),
+                 .accessibility = &accessibility_,
+                 .desktopLook = platform_.look.get(),
+                 .tray = platform_.tray.get(),
+                 .doors = {.openSettings = [this] { settings().present(); },
+                           .quit = [] { QCoreApplication::quit(); }}}),
       termination_([] { QCoreApplication::quit(); }),
       processEnd_([this] { model_.prepareForTermination(); }) {
-    model_.openCollage = [this](auto, auto) { showSettings(); };
+    model_.openCollage = [this](auto period, auto date) { settings().presentCrew({period, date}); };
+    WumbleView::onPoke = [this](wumble::WumbleGesture gesture) { model_.petWasPoked(gesture); };
     WumbleView::desktopPointer = [this] { return host_->pointer(); };
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeActivation([this] { reopen(); });
@@ -92,6 +95,7 @@ void AppDelegate::beginWhenTheDesktopHasAnswered(const command::RunApplication& 
 
 void AppDelegate::begin(const command::RunApplication& options) {
     model_.start(AppModel::Running::ticking);
+    surfaces_.prepare();
     carryOut(options);
     if (isWelcomed()) {
         model_.greetToday();
@@ -107,18 +111,18 @@ void AppDelegate::reopen() {
     if (!isWelcomed()) {
         showWelcome();
     } else if (platform_.tray->isShown()) {
-        showSettings();
+        settings().present();
     } else {
         surfaces_.openPopover();
     }
 }
 
-void AppDelegate::showSettings() {
+SettingsWindow& AppDelegate::settings() {
     if (!settings_) {
         settings_ =
             std::make_unique<SettingsWindow>(model_, platform_.loginItem.get(), surfaces_.appearance());
     }
-    settings_->present();
+    return *settings_;
 }
 
 void AppDelegate::showWelcome() {
@@ -130,6 +134,7 @@ void AppDelegate::showWelcome() {
 
 AppDelegate::~AppDelegate() {
     WumbleView::desktopPointer = nullptr;
+    WumbleView::onPoke = nullptr;
     model_.prepareForTermination();
 }
 
@@ -138,7 +143,10 @@ void AppDelegate::carryOut(const command::RunApplication& options) {
         model_.startPreview(demoBreakSeconds);
     }
     if (options.openSettings) {
-        showSettings();
+        settings().present();
+    }
+    if (options.openCollage) {
+        model_.openCollage(wumble::Recap::Period::week, model_.state().now.value());
     }
     if (options.enableLaunchAtLogin) {
         model_.setOpenAtLogin(true);
@@ -151,7 +159,8 @@ int runApplication(const command::RunApplication& options) {
     if (!lock) {
         return refuse(folder);
     }
-    const AppDelegate delegate(folder, options);
+    QtMainLoop loop;
+    const AppDelegate delegate(folder, options, loop, makeLinuxPlatform(loop));
     return QCoreApplication::exec();
 }
 

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "Quietlark/CommandLine.h"
+#include "Quietlark/MainLoop.h"
 #include "Quietlark/Model/AppModel.h"
 #include "Quietlark/Model/CuePlayer.h"
 #include "Quietlark/Model/DesktopAccessibility.h"
 #include "Quietlark/Platform/Platform.h"
 #include "Quietlark/Platform/SurfaceHost.h"
 #include "Quietlark/ProcessEnd.h"
-#include "Quietlark/QtMainLoop.h"
 #include "Quietlark/Settings/SettingsWindow.h"
 #include "Quietlark/Surfaces/InstalledSurfaces.h"
 #include "Quietlark/TerminationSignals.h"
@@ -22,11 +22,14 @@ namespace quietlark {
 /// Needs a QApplication.
 class AppDelegate {
 public:
-    /// `folder`: the data folder, whose lock the caller holds.
-    AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options);
+    /// `folder`: the data folder, whose lock the caller holds. The platform stands on the loop, which outlives it.
+    AppDelegate(const std::filesystem::path& folder, const command::RunApplication& options, MainLoop& loop,
+                Platform platform);
     ~AppDelegate();
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
+
+    AppModel& model() { return model_; }
 
 private:
     void beginWhenTheDesktopHasAnswered(const command::RunApplication& options, double deadline);
@@ -35,9 +38,9 @@ private:
     bool isWelcomed() const;
     void reopen();
     void showWelcome();
-    void showSettings();
+    SettingsWindow& settings();
 
-    QtMainLoop loop_;
+    MainLoop& loop_;
     Platform platform_;
     DesktopAccessibility accessibility_;
     std::unique_ptr<SurfaceHost> host_;

@@ -19,11 +19,9 @@ using Arguments = std::vector<std::string>;
 constexpr int badAppearance = 2;
 constexpr int unknownOption = 64;
 
-constexpr std::array<std::string_view, 3> appearances{"light", "dark", "system"};
-
 /// What the program itself reads. An option named here is built; the others are refused.
-constexpr std::array<std::string_view, 4> runningOptions{"--appearance", "--demo-break", "--open-settings",
-                                                         "--enable-launch-at-login"};
+constexpr std::array<std::string_view, 5> runningOptions{"--appearance", "--demo-break", "--open-settings",
+                                                         "--open-collage", "--enable-launch-at-login"};
 
 bool has(const Arguments& arguments, std::string_view option) {
     return std::ranges::find(arguments, option) != arguments.end();
@@ -44,27 +42,39 @@ double secondsAfter(const Arguments& arguments, std::string_view option, double 
     return isLength && std::isfinite(seconds) ? seconds : usual;
 }
 
-std::optional<std::string> appearance(const Arguments& arguments) {
+std::optional<std::string> appearanceWord(const Arguments& arguments) {
     const auto value = valueAfter(arguments, "--appearance");
     return value ? std::optional(wumble::lowerCased(*value)) : std::nullopt;
 }
 
 bool namesNoAppearance(const Arguments& arguments) {
-    const auto named = appearance(arguments);
-    return named && std::ranges::find(appearances, *named) == appearances.end();
+    const auto word = appearanceWord(arguments);
+    return word && !wumble::enumFromText<wumble::Appearance>(*word);
 }
 
-command::Render render(std::string_view option, const Arguments& arguments) {
+/// The one after the option; an option of its own is none.
+std::string folderAfter(std::string_view option, const Arguments& arguments) {
     const std::string folder = valueAfter(arguments, option).value_or("");
-    return {.option = std::string(option),
-            .folder = folder.starts_with("--") ? "" : folder,
-            .dark = appearance(arguments) == "dark"};
+    return folder.starts_with("--") ? "" : folder;
 }
 
 command::Render renderLight(std::string_view option, const Arguments& arguments) {
-    command::Render light = render(option, arguments);
-    light.dark = false;
-    return light;
+    return {.option = std::string(option), .folder = folderAfter(option, arguments)};
+}
+
+command::Render render(std::string_view option, const Arguments& arguments) {
+    command::Render asked = renderLight(option, arguments);
+    const std::string word = appearanceWord(arguments).value_or("");
+    asked.appearance = wumble::enumFromText<wumble::Appearance>(word).value_or(asked.appearance);
+    return asked;
+}
+
+Command appIcon(std::string_view option, const Arguments& arguments) {
+    const bool checks = has(arguments, "--check");
+    if (checks || has(arguments, "--sync")) {
+        return command::KeepIcon{.folder = folderAfter(option, arguments), .bringInStep = !checks};
+    }
+    return renderLight(option, arguments);
 }
 
 /// An option that makes the process something else than the application.
@@ -77,7 +87,7 @@ struct Tool {
 constexpr std::array earlyTools{
     Tool{"--sprite-sheet", [](auto option, auto& all) -> Command { return renderLight(option, all); }},
     Tool{"--icon-options", [](auto option, auto& all) -> Command { return renderLight(option, all); }},
-    Tool{"--app-icon", [](auto option, auto& all) -> Command { return renderLight(option, all); }},
+    Tool{"--app-icon", appIcon},
     Tool{"--render-previews", [](auto option, auto& all) -> Command { return renderLight(option, all); }},
 };
 constexpr std::array tools{
@@ -131,6 +141,7 @@ Command commandFor(const Arguments& arguments) {
     }
     return command::RunApplication{.demoBreak = has(arguments, "--demo-break"),
                                    .openSettings = has(arguments, "--open-settings"),
+                                   .openCollage = has(arguments, "--open-collage"),
                                    .enableLaunchAtLogin = has(arguments, "--enable-launch-at-login")};
 }
 

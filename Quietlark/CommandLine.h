@@ -1,5 +1,7 @@
 #pragma once
 
+#include "WumbleCore/Engine/SettingsChoices.h"
+
 #include <string>
 #include <variant>
 #include <vector>
@@ -13,6 +15,7 @@ namespace command {
 struct RunApplication {
     bool demoBreak = false;           ///< show a short preview at once
     bool openSettings = false;        ///< with the window of the settings
+    bool openCollage = false;         ///< and this week's pets in it
     bool enableLaunchAtLogin = false; ///< and tell in the program whether that worked
     bool operator==(const RunApplication&) const = default;
 };
@@ -21,8 +24,15 @@ struct RunApplication {
 struct Render {
     std::string option; ///< of a renderer
     std::string folder; ///< empty: the renderer's own
-    bool dark = false;
+    wumble::Appearance appearance = wumble::Appearance::light;
     bool operator==(const Render&) const = default;
+};
+
+/// The files of the icon that are kept with the sources, beside what is drawn now.
+struct KeepIcon {
+    std::string folder;       ///< empty: where they are kept
+    bool bringInStep = false; ///< draws them anew where they differ; otherwise they are only compared
+    bool operator==(const KeepIcon&) const = default;
 };
 
 /// A report of what the detector sees now.
@@ -49,7 +59,7 @@ struct Refuse {
 
 } // namespace command
 
-using Command = std::variant<command::RunApplication, command::Render, command::Diagnose,
+using Command = std::variant<command::RunApplication, command::Render, command::KeepIcon, command::Diagnose,
                              command::WatchMicrophone, command::WatchCapture, command::Refuse>;
 
 /// `arguments` without the program's name. The option that stands first in the table of options decides, wherever it

@@ -2,7 +2,7 @@
 #include "Quietlark/CommandLine.h"
 #include "Quietlark/Diagnosis/Diagnosis.h"
 #include "Quietlark/GraphicalApplication.h"
-#include "Quietlark/Renderers/Renderers.h"
+#include "Quietlark/RenderCommands.h"
 #include "Quietlark/TerminationSignals.h"
 
 #include <QApplication>
@@ -10,7 +10,6 @@
 
 #include <csignal>
 #include <cstdio>
-#include <string>
 #include <variant>
 #include <vector>
 
@@ -28,17 +27,6 @@ struct Process {
         return refusal.status;
     }
 
-    int operator()(const command::Render& render) const {
-        // Pictures need no screen, and look the same on any.
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        const QApplication application(argumentCount, arguments);
-        const int status = runRenderer(render.option, render.folder, {.dark = render.dark});
-        if (status != 0) {
-            std::fputs("The folder for the output can't be written.\n", stderr);
-        }
-        return status;
-    }
-
     int operator()(const command::RunApplication& options) const {
         // Before the window system starts a thread, which would let the process end unsaved.
         TerminationSignals::hold();
@@ -46,9 +34,20 @@ struct Process {
         return runApplication(options);
     }
 
+    int operator()(const command::Render& command) const { return render(command); }
+    int operator()(const command::KeepIcon& command) const { return render(command); }
+
     int operator()(const auto& diagnosis) const {
         const QCoreApplication application(argumentCount, arguments);
         return runDiagnosis(diagnosis);
+    }
+
+private:
+    int render(const auto& command) const {
+        // Pictures need no screen, and look the same on any.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        const QApplication application(argumentCount, arguments);
+        return runRender(command);
     }
 };
 

@@ -76,8 +76,11 @@ void print(const std::string& text) {
 
 std::string timeOfDay() {
     const QLocale locale = QLocale::system();
-    const QString withoutZone = locale.timeFormat(QLocale::LongFormat).remove(QLatin1Char('t')).trimmed();
-    return locale.toString(QTime::currentTime(), withoutZone).toStdString();
+    QString format = locale.timeFormat(QLocale::LongFormat);
+    for (const char* zone : {"(t)", "t"}) {
+        format.remove(QLatin1String(zone));
+    }
+    return locale.toString(QTime::currentTime(), format.trimmed()).toStdString();
 }
 
 /// Looks every `interval` seconds for so many seconds in all.

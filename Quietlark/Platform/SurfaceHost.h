@@ -72,6 +72,9 @@ public:
     virtual bool takesPointer() const = 0;
     virtual void setTakesPointer(bool takes) = 0;
 
+    /// Gives the keyboard back to whom it was taken from, while the surface itself stays. It doesn't take it again.
+    virtual void releaseKeyboard() {}
+
     /// What of the view is to be seen where the desktop can't blend it with what lies behind; elsewhere nothing comes
     /// of it. All of it until this is called.
     virtual void setOutline(const QRegion& outline) = 0;
@@ -92,6 +95,9 @@ public:
 
     /// Absent where this session doesn't tell.
     virtual std::optional<QPointF> pointer() const = 0;
+
+    /// The same at this very moment, at the cost of a short wait: for a click, which may have come with the pointer.
+    virtual std::optional<QPointF> pointerNow() const { return pointer(); }
 
     /// A press of a button anywhere outside our own surfaces, and another program coming to the front, for as long as
     /// the answer lives.

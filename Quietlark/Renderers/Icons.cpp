@@ -1,37 +1,16 @@
+#include "Quietlark/Pet/AppIcon.h"
 #include "Quietlark/Pet/MenuBarIcon.h"
-#include "Quietlark/Pet/WumbleView.h"
-#include "Quietlark/Renderers/PetCells.h"
 #include "Quietlark/Renderers/PetSheets.h"
+#include "Quietlark/Renderers/Sheet.h"
 #include "Quietlark/Theme/Role.h"
 
-#include <array>
+#include <algorithm>
+#include <string>
+#include <vector>
 
 namespace quietlark {
 
 namespace {
-
-constexpr std::array appIconSizes{16, 22, 24, 32, 48, 64, 128, 256, 512};
-
-/// The pet that stands for the program: a sakura with a sprout, glad to see you.
-wumble::WumbleDay mascot() {
-    auto day = samplePet(wumble::WumbleBase::sakura, 5);
-    day.traits.eyes = wumble::WumbleEyes::round;
-    day.traits.accessory = wumble::WumbleAccessory::sprout;
-    return day;
-}
-
-QImage appIcon(int size) {
-    constexpr double faceShownFrom = 48; ///< pixels; below it the pet fills the icon
-    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    const double room = size < faceShownFrom ? 0.06 * size : 0;
-    SoftWumble::Tweaks tweaks;
-    tweaks.faceScale = size < faceShownFrom ? 1.35 : 1;
-    SoftWumble::draw(painter, QRectF(-room, -room, size + 2 * room, size + 2 * room), mascot(), {},
-                     SoftWumble::Sticker::dieCut, tweaks);
-    return image;
-}
 
 /// One row of the tray icon's moods, each pixel `zoom` pixels wide.
 QImage trayRow(int size, int zoom, bool dark) {
@@ -68,8 +47,8 @@ QImage stacked(const std::vector<QImage>& rows) {
 } // namespace
 
 bool renderAppIcon(const std::filesystem::path& folder, Appearance) {
-    return std::ranges::all_of(appIconSizes, [&](int size) {
-        return save(appIcon(size), folder, "quietlark-" + std::to_string(size) + ".png");
+    return std::ranges::all_of(AppIcon::sizes, [&](int size) {
+        return save(AppIcon::image(size), folder, "quietlark-" + std::to_string(size) + ".png");
     });
 }
 

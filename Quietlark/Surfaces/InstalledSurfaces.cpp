@@ -73,6 +73,8 @@ InstalledSurfaces::~InstalledSurfaces() {
     }
 }
 
+void InstalledSurfaces::prepare() { controllers_->overlay.prepare(); }
+
 void InstalledSurfaces::openPopover() {
     if (auto& item = controllers_->statusItem; item && !item->isPopoverShown()) {
         item->toggle(std::nullopt);

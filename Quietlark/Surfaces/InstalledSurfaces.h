@@ -37,6 +37,9 @@ public:
 
     const QProperty<Appearance>& appearance() const { return appearance_; }
 
+    /// Has everything ready for the moment at which it is wanted.
+    void prepare();
+
     /// For the person who starts the program again, and may have no panel.
     void openPopover();
 

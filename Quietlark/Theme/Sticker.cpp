@@ -14,18 +14,8 @@ namespace {
 constexpr double contrastLine = 1; ///< what more contrast adds to an outline
 constexpr double paperDots = 16;   ///< between two dots
 constexpr double dotRadius = 0.9;
-constexpr double tagPadding = 8;
-constexpr double tagAir = 3; ///< above and below its words
-constexpr double widestTag = 240;
 constexpr double ringLine = 2;
 constexpr double ringGap = 2; ///< between the control and the ring
-
-TextStyle tagText(Surface fill) {
-    return {.token = TypeToken::caption,
-            .ink = ink(fill),
-            .alignment = Qt::AlignCenter,
-            .weight = QFont::DemiBold};
-}
 
 } // namespace
 
@@ -76,20 +66,6 @@ void drawDotGrid(QPainter& painter, const QRectF& rect, double spacing, const QC
         painter.translate(0, spacing);
     }
     painter.restore();
-}
-
-QSizeF stickerTagSize(const QString& text, const Appearance& appearance) {
-    const QSizeF words = measureText(text, tagText(Surface::card), widestTag, appearance);
-    return words + QSizeF(2 * tagPadding, 2 * tagAir);
-}
-
-void drawStickerTag(QPainter& painter, const QPointF& center, const QString& text, Surface fill,
-                    const Appearance& appearance) {
-    QRectF pill({0, 0}, stickerTagSize(text, appearance));
-    pill.moveCenter(center);
-    drawSticker(painter, pill, {.fill = fill, .radius = pill.height() / 2, .lift = Lift::flat}, appearance);
-    drawText(painter, pill.adjusted(tagPadding, tagAir, -tagPadding, -tagAir), text, tagText(fill),
-             appearance);
 }
 
 void drawFocusRing(QPainter& painter, const QRectF& rect, double radius, const Appearance& appearance) {

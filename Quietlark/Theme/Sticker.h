@@ -3,8 +3,6 @@
 #include "Quietlark/Theme/Sizes.h"
 
 #include <QPainterPath>
-#include <QSizeF>
-#include <QString>
 
 class QPainter;
 
@@ -30,13 +28,6 @@ void drawSticker(QPainter& painter, const QRectF& rect, const StickerStyle& styl
 void drawStickerBackground(QPainter& painter, const QRectF& rect, const Appearance& appearance);
 
 void drawDotGrid(QPainter& painter, const QRectF& rect, double spacing, const QColor& dots);
-
-/// A word or two on a small pill of their own.
-void drawStickerTag(QPainter& painter, const QPointF& center, const QString& text, Surface fill,
-                    const Appearance& appearance);
-
-/// Without its shadow.
-QSizeF stickerTagSize(const QString& text, const Appearance& appearance);
 
 /// The line that shows which control has the keyboard: around `rect`, a little outside of it.
 void drawFocusRing(QPainter& painter, const QRectF& rect, double radius, const Appearance& appearance);

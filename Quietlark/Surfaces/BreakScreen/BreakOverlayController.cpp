@@ -15,6 +15,7 @@ namespace quietlark {
 namespace {
 
 constexpr double checkDelay = 1.5;
+constexpr double rehearsalDelay = 2;
 constexpr auto primaryName = "break-screen";
 constexpr auto otherName = "break-screen-other";
 
@@ -50,6 +51,17 @@ void BreakOverlayController::show(const wumble::ActiveBreak& activeBreak) {
     announceScene();
 }
 
+void BreakOverlayController::prepare() {
+    later(rehearsalDelay, [this] { rehearse(); });
+}
+
+void BreakOverlayController::rehearse() {
+    const auto screens = context_.host.screens();
+    if (!isUp() && !screens.empty()) {
+        makeSurface(std::make_shared<BreakStage>(), screens.front(), true);
+    }
+}
+
 void BreakOverlayController::startStage() {
     stage_ = std::make_shared<BreakStage>();
     stage_->shownAt = context_.loop.now();
@@ -79,19 +91,22 @@ std::vector<Screen> BreakOverlayController::targetScreens(const std::optional<Sc
     return pointerScreen ? std::vector{*pointerScreen} : std::vector<Screen>();
 }
 
-BreakOverlayController::Window BreakOverlayController::makeWindow(const Screen& screen, bool isPrimary) {
+std::unique_ptr<HostedSurface> BreakOverlayController::makeSurface(const std::shared_ptr<BreakStage>& stage,
+                                                                   const Screen& screen, bool isPrimary) {
     auto view = std::make_unique<BreakView>(
         BreakView::Setup{.context = context_,
-                         .stage = stage_,
+                         .stage = stage,
                          .screen = screen,
                          .isPrimary = isPrimary,
                          .lock = lock_,
                          .keyPressed = [this](const QKeyEvent& event) { return keyPressed(event); }});
-    Window window{.surface = context_.host.host(std::move(view),
-                                                {.identifier = isPrimary ? primaryName : otherName,
-                                                 .layer = SurfaceLayer::breakScreen,
-                                                 .keyboard = isPrimary ? Keyboard::whole : Keyboard::none}),
-                  .screen = screen};
+    return context_.host.host(std::move(view), {.identifier = isPrimary ? primaryName : otherName,
+                                                .layer = SurfaceLayer::breakScreen,
+                                                .keyboard = isPrimary ? Keyboard::whole : Keyboard::none});
+}
+
+BreakOverlayController::Window BreakOverlayController::makeWindow(const Screen& screen, bool isPrimary) {
+    Window window{.surface = makeSurface(stage_, screen, isPrimary), .screen = screen};
     window.surface->setFrame(screen.frame);
     window.surface->setOpacity(1);
     window.surface->setMapped(true);
@@ -133,6 +148,7 @@ void BreakOverlayController::hide(const std::optional<BreakScreenPhase>& showing
     stage_->leave(showing, context_.loop.now());
     for (const Window& window : leaving_) {
         window.surface->setTakesPointer(false);
+        window.surface->releaseKeyboard();
     }
     later(exitLength, [this, build = build_] {
         if (build_ == build) {

@@ -18,7 +18,7 @@ namespace quietlark {
 
 /// Puts the break screen up on the screens that the person wants it on, follows the screens while it is up, and takes
 /// the keys. It decides nothing about breaks: what is pressed goes to the model.
-class BreakOverlayController final : public BreakOverlay {
+class BreakOverlayController final : public BreakScreenPresenting {
 public:
     /// `lock` may be missing: the lock button then does nothing.
     explicit BreakOverlayController(const SurfaceContext& context, ScreenLock* lock = nullptr);
@@ -26,6 +26,10 @@ public:
 
     void show(const wumble::ActiveBreak& activeBreak) override;
     void hide(const std::optional<BreakScreenPhase>& showing) override;
+
+    /// A little later, when nobody waits for anything, goes once through what the first break would have to wait for:
+    /// typefaces and libraries.
+    void prepare();
 
     bool isUp() const { return !windows_.empty(); }
 
@@ -38,8 +42,11 @@ private:
         Screen screen;
     };
 
+    void rehearse();
     void buildWindows();
     std::vector<Screen> targetScreens(const std::optional<Screen>& pointerScreen) const;
+    std::unique_ptr<HostedSurface> makeSurface(const std::shared_ptr<BreakStage>& stage, const Screen& screen,
+                                               bool isPrimary);
     Window makeWindow(const Screen& screen, bool isPrimary);
     void startStage();
     void checkLater();

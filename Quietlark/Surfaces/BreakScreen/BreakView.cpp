@@ -37,13 +37,14 @@ bool differOnlyInTime(BreakContent a, const BreakContent& b) {
 } // namespace
 
 BreakView::BreakView(Setup setup)
-    : setup_(std::move(setup)), ground_(setup_.context.host.backdrop(setup_.screen)),
+    : setup_(std::move(setup)), ground_(backdrop()),
       pet_(new BreakPet(setup_.context.model.state().today.value(),
                         {.now = [&loop = setup_.context.loop] { return loop.uptime(); },
                          .start = setup_.stage->petClockStart},
                         this)),
-      ring_(new CountdownRing(setup_.context.loop, this)), dots_(new RevealDots(this)),
-      tag_(new StickerTag(this)), chip_(new StreakChip(StreakChip::Size::large, this)),
+      ring_(new CountdownRing(setup_.context.loop, setup_.screen.refreshRate, this)),
+      dots_(new RevealDots(this)), tag_(new StickerTag(this)),
+      chip_(new StreakChip(StreakChip::Size::large, this)),
       lockButton_(new StickerButton(QStringLiteral("Lock screen"), StickerButton::Kind::quiet, this)),
       controls_(*this, [this](BreakControl control) { press(control); }),
       frames_(setup_.context.loop, [this](double) { frame(); }) {
@@ -103,14 +104,24 @@ void BreakView::followModel() {
 }
 
 /// Always dark, whatever the rest of the program is.
+BreakGround::Look BreakView::look() const {
+    Appearance appearance = setup_.context.appearance.value();
+    appearance.dark = true;
+    return {.style = setup_.context.model.state().settings.value().breakScreenStyle,
+            .appearance = appearance,
+            .blends = setup_.context.host.blends()};
+}
+
+/// To fetch it takes longer than all the rest.
+std::optional<QImage> BreakView::backdrop() const {
+    return BreakGround::wantsBackdrop(look()) ? setup_.context.host.backdrop(setup_.screen) : std::nullopt;
+}
+
 void BreakView::refreshAppearance() {
-    appearance_ = setup_.context.appearance.value();
-    appearance_.dark = true;
+    appearance_ = look().appearance;
     setAppearance(*this, appearance_);
     pet_->setAppearance(appearance_);
-    ground_.setLook({.style = setup_.context.model.state().settings.value().breakScreenStyle,
-                     .appearance = appearance_,
-                     .blends = setup_.context.host.blends()});
+    ground_.setLook(look());
     if (content_.scene != BreakScene::empty) {
         layOut(true);
     }
@@ -208,7 +219,7 @@ void BreakView::say() {
         }
     }
     setAccessibleName(QString::fromStdString(content_.title));
-    setAccessibleDescription(lines.join(QStringLiteral(". ")));
+    setAccessibleDescription(lines.join(QLatin1Char('\n')));
 }
 
 void BreakView::press(BreakControl control) {

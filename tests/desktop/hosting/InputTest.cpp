@@ -83,6 +83,20 @@ TEST_F(WithWork, aBreakScreenHasEveryKeyAndGivesTheFocusBack) {
     EXPECT_TRUE(lab::spinUntil([&] { return work->keys() == 1; }));
 }
 
+TEST_F(WithWork, aBreakScreenThatLeavesGivesTheKeyboardBackWhileItIsStillThere) {
+    const auto leaving = show(leftScreen, breakScreen);
+    ASSERT_TRUE(lab::spinUntil([&] { return viewOf(*leaving).hasFocus(); }));
+    leaving->releaseKeyboard();
+    const auto next = show(leftScreen, breakScreen);
+    EXPECT_TRUE(lab::spinUntil([&] { return viewOf(*next).hasFocus(); })) << "another one comes at once";
+    next->releaseKeyboard();
+    EXPECT_TRUE(lab::spinUntil([&] { return work->hasFocus(); }));
+    EXPECT_TRUE(next->isShowing());
+    press("b");
+    EXPECT_TRUE(lab::spinUntil([&] { return work->keys() == 1; }));
+    EXPECT_TRUE(viewOf(*next).keys.empty());
+}
+
 TEST_F(WithWork, aBreakScreenThatIsBuiltAnewKeepsTheKeysAndStillKnowsWhoHadThemFirst) {
     auto first = show(leftScreen, breakScreen);
     first.reset();

@@ -1,9 +1,12 @@
 #include "Quietlark/Renderers/Renderers.h"
+#include "Quietlark/Pet/AppIcon.h"
+#include "Quietlark/Renderers/IconCopy.h"
 
 #include "tests/support/TemporaryFolder.h"
 
 #include <QImage>
 #include <algorithm>
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace quietlark {
@@ -41,6 +44,19 @@ TEST(Renderers, aFolderThatCannotBeMadeIsTold) {
     const wumble::test::TemporaryFolder folder;
     std::ofstream(folder.path() / "file") << "in the way";
     EXPECT_EQ(runRenderer("--app-icon", folder.path() / "file" / "icons", {}), 1);
+}
+
+TEST(Renderers, theIconsThatAreKeptShowWhatIsDrawn) {
+    EXPECT_TRUE(IconCopy::outOfStep(KEPT_ICONS).empty()) << "quietlark --app-icon --sync";
+
+    const wumble::test::TemporaryFolder folder;
+    EXPECT_EQ(IconCopy::outOfStep(folder.path()).size(), AppIcon::sizes.size());
+    ASSERT_TRUE(IconCopy::bringInStep(folder.path()));
+    EXPECT_TRUE(IconCopy::outOfStep(folder.path()).empty());
+    std::filesystem::copy_file(folder.path() / "64.png", folder.path() / "48.png",
+                               std::filesystem::copy_options::overwrite_existing);
+    std::ofstream(folder.path() / "22.png", std::ios::trunc) << "no picture";
+    EXPECT_EQ(IconCopy::outOfStep(folder.path()), (std::vector<std::string>{"22.png", "48.png"}));
 }
 
 TEST(Renderers, anOptionThatNoneHasIsTold) { EXPECT_EQ(runRenderer("--sprites", {}, {}), 64); }

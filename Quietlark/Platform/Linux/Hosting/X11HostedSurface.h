@@ -31,6 +31,7 @@ public:
     void setOpacity(double opacity) override;
     bool takesPointer() const override { return takesPointer_; }
     void setTakesPointer(bool takes) override;
+    void releaseKeyboard() override { desk_.keyboard.giveBack(id()); }
     void setOutline(const QRegion& outline) override;
 
 private:

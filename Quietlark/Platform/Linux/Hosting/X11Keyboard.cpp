@@ -53,6 +53,7 @@ void X11Keyboard::giveBack(xcb_window_t window) {
         tryToHold();
         return;
     }
+    last_ = window;
     letGo(State::free);
     rawInput_.wantKeys(false);
     return_.start(0);
@@ -131,7 +132,8 @@ bool X11Keyboard::isAWindow(xcb_window_t focus) const {
 
 void X11Keyboard::rememberFocus() {
     const xcb_window_t window = focus();
-    if (isAWindow(window) && std::ranges::find(windows_, window) == windows_.end()) {
+    const bool isOurs = window == last_ || std::ranges::find(windows_, window) != windows_.end();
+    if (isAWindow(window) && !isOurs) {
         focusBefore_ = window;
     }
 }
@@ -144,10 +146,11 @@ void X11Keyboard::setFocus(xcb_window_t window) const {
     xcb_flush(connection_);
 }
 
-/// Nobody is robbed who has taken it meanwhile.
+/// Nobody is robbed who has taken it meanwhile. Our window may still be on the screen.
 void X11Keyboard::returnFocus() {
     const auto before = std::exchange(focusBefore_, {});
-    if (before && !isAWindow(focus())) {
+    const xcb_window_t holder = focus();
+    if (before && (holder == last_ || !isAWindow(holder))) {
         setFocus(*before);
     }
 }

@@ -21,7 +21,7 @@ public:
 
     /// A window that was just mapped.
     void take(xcb_window_t window);
-    /// Before or after it is unmapped.
+    /// Before or after it is unmapped, or while it stays.
     void giveBack(xcb_window_t window);
 
     /// Lets go of it for some seconds.
@@ -47,6 +47,7 @@ private:
     std::vector<xcb_window_t> windows_;
     State state_ = State::free;
     std::optional<xcb_window_t> focusBefore_;
+    xcb_window_t last_ = XCB_NONE; ///< of ours that had it
     int focusesLeft_ = 0;
     QTimer again_;  ///< until the next attempt
     QTimer quiet_;  ///< until it counts as unused
