@@ -29,8 +29,9 @@ constexpr double settled = 2; ///< seconds after which a note and its pet stand 
 constexpr double margin = NoteStage::margin;
 
 const std::string longName =
-    "Quarterly Planning Board – Extended Edition for Large Teams with Very Many Members and an Unreasonably "
-    "Long Window Title That Somebody Never Shortened Although It Was Asked for More Than Once 🙂";
+    "Quarterly 🙂 Planning Board – Extended Edition for Large Teams with Very Many Members and an "
+    "Unreasonably "
+    "Long Window Title That Somebody Never Shortened Although It Was Asked for More Than Once";
 
 /// One note on a stage of its own.
 struct Show {

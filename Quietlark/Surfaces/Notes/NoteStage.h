@@ -46,8 +46,8 @@ public:
     /// The margin around a card, for its shadow and its motion.
     static constexpr double margin = 14;
 
-    /// The anchor that leaves a large card and its shadow within that margin all the way.
-    static constexpr QPointF roomiest{0.8, 0};
+    /// The anchor that leaves a large card and its shadow within that margin all the way, but for a point or two.
+    static constexpr QPointF roomiest{0.7, 0.65};
 
     NoteStage(std::unique_ptr<QWidget> content, std::shared_ptr<ObservedPresence> presence,
               NoteSetting setting, const MainLoop& loop);

@@ -9,6 +9,9 @@
 #include "Quietlark/Surfaces/Nudges/ReminderView.h"
 #include "WumbleCore/Motion/Choreography.h"
 
+#include <QBitmap>
+#include <QPainter>
+
 #include <cmath>
 #include <numbers>
 #include <utility>
@@ -36,11 +39,14 @@ void drawString(QPainter& painter, const QRectF& card, const QTransform& hung, c
 }
 
 /// Where string and knot are to be seen, for a desktop that can't blend.
-QRegion stringAtRest(const NudgeGeometry::Panel& panel) {
-    constexpr QPoint cord(3, 0);
-    constexpr QPoint knot(18, 10);
-    const QPoint tied = QPointF(panel.card.center().x(), panel.card.top()).toPoint();
-    return QRegion(QRect(QPoint(tied.x(), 0) - cord, tied + cord)).united(QRect(tied - knot, tied + knot));
+QRegion stringAtRest(const NudgeGeometry::Panel& panel, double scale) {
+    QImage image(panel.frame.size().toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawString(painter, panel.card, NudgeGeometry::swing(panel.card, scale, hangsFor), {});
+    painter.end();
+    return QBitmap::fromImage(image.createAlphaMask(Qt::MonoOnly | Qt::ThresholdDither));
 }
 
 NoteSetting settingFor(const NudgeGeometry::Panel& panel, double scale, wumble::NoteEntrance entrance,
@@ -48,6 +54,9 @@ NoteSetting settingFor(const NudgeGeometry::Panel& panel, double scale, wumble::
                        const QProperty<Appearance>& appearance) {
     NoteSetting setting{
         .card = panel.card, .radius = Radius::card * scale, .refreshRate = screen.refreshRate};
+    if (entrance != wumble::NoteEntrance::eye) {
+        setting.anchor = NoteStage::roomiest;
+    }
     if (entrance == wumble::NoteEntrance::hang) {
         setting.hang = [card = panel.card, scale](double elapsed) {
             return NudgeGeometry::swing(card, scale, elapsed);
@@ -56,7 +65,7 @@ NoteSetting settingFor(const NudgeGeometry::Panel& panel, double scale, wumble::
             drawString(painter, card, hung, appearance.value());
         };
         setting.hangsFor = hangsFor;
-        setting.besides = stringAtRest(panel);
+        setting.besides = stringAtRest(panel, scale);
     } else if (entrance == wumble::NoteEntrance::eye) {
         setting.drawLids = [dough = palette(base), &appearance](QPainter& painter, const QRectF& card,
                                                                 double shut) {

@@ -11,7 +11,6 @@ namespace {
 using wumble::NoteEntrance;
 using wumble::NudgeSpot;
 using wumble::ReminderSize;
-using wumble::Toast;
 
 const QRectF laptop(0, 0, 1440, 900);
 const QRectF laptopFree(0, 30, 1440, 870);
@@ -50,13 +49,6 @@ TEST(NudgeGeometry, theCardStandsInTheMiddleAtItsSpot) {
         EXPECT_DOUBLE_EQ(card.center().x(), free.center().x());
         EXPECT_NEAR(card.center().y(), center, 1e-9);
     }
-}
-
-TEST(NudgeGeometry, eachExerciseComesInItsOwnWay) {
-    EXPECT_EQ(NudgeGeometry::entrance(std::nullopt), NoteEntrance::slap);
-    EXPECT_EQ(NudgeGeometry::entrance(Toast::Blinks{3}), NoteEntrance::eye);
-    EXPECT_EQ(NudgeGeometry::entrance(Toast::Steps{}), NoteEntrance::hang);
-    EXPECT_EQ(NudgeGeometry::entrance(Toast::Breaths{3}), NoteEntrance::settle);
 }
 
 TEST(NudgeGeometry, aHangingPanelReachesTheTopOfTheScreenAndBelowTheCard) {

@@ -50,6 +50,7 @@ public:
         setWindowRole(identifier);
         setAttribute(Qt::WA_TranslucentBackground);
         setAttribute(Qt::WA_ShowWithoutActivating);
+        setAttribute(Qt::WA_AlwaysShowToolTips);
         setAttribute(Qt::WA_QuitOnClose, false);
         view.setParent(this);
         view.show();
