@@ -91,8 +91,7 @@ void X11Wire::gatherEvents() {
 bool X11Wire::takeAnswer() {
     void* reply = nullptr;
     xcb_generic_error_t* error = nullptr;
-    if (questions_.empty() ||
-        xcb_poll_for_reply(get(), questions_.front().sequence, &reply, &error) == 0) {
+    if (questions_.empty() || xcb_poll_for_reply(get(), questions_.front().sequence, &reply, &error) == 0) {
         return false;
     }
     const std::unique_ptr<void, X11Free> ownedReply(reply);
