@@ -3,7 +3,6 @@
 #include "WumbleCore/Engine/NudgePlacement.h"
 
 #include <algorithm>
-#include <ranges>
 #include <vector>
 
 namespace quietlark {
@@ -60,8 +59,8 @@ std::optional<Rect> windowInFront(const std::vector<Screen>& screens, WindowSyst
     }
     const Points points(screens, windows);
     const auto rectangles = windows.rectanglesOfProgram(*front);
-    for (const Rect& pixels : std::views::reverse(rectangles)) {
-        const Rect rect = points.of(pixels);
+    for (auto pixels = rectangles.crbegin(); pixels != rectangles.crend(); ++pixels) {
+        const Rect rect = points.of(*pixels);
         if (rect.width >= smallestWindow && rect.height >= smallestWindow) {
             return rect;
         }

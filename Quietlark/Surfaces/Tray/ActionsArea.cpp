@@ -70,7 +70,8 @@ void ActionsArea::setRows(const std::vector<ActionRow>& rows) {
         build();
     }
     for (const ActionRow& row : rows_) {
-        if (PressControl* button = buttons_[row.action]; button && button->text() != text(row.label)) {
+        if (PressControl* button = buttons_[row.action];
+            button != nullptr && button->text() != text(row.label)) {
             button->setText(text(row.label));
         }
     }

@@ -11,7 +11,7 @@ namespace {
 /// By that connection itself: asked on one that doesn't know an extension, a request of it would end the connection.
 bool hasShapes(xcb_connection_t* connection) {
     const auto* extension = xcb_get_extension_data(connection, &xcb_shape_id);
-    return extension && extension->present;
+    return extension != nullptr && extension->present != 0;
 }
 
 } // namespace

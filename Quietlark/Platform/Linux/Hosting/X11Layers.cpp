@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 #include <utility>
 
 #include <xcb/xcbext.h>
@@ -114,11 +113,11 @@ std::optional<bool> X11Layers::isSeen(xcb_window_t window) const {
         return {};
     }
     QRegion visible(found->frame);
-    for (const X11Neighbour& above : std::ranges::subrange(std::next(found), windows.end())) {
+    std::for_each(std::next(found), windows.end(), [&](const X11Neighbour& above) {
         if (covers(above)) {
             visible -= above.frame;
         }
-    }
+    });
     return found->isMapped && !visible.isEmpty();
 }
 
@@ -180,18 +179,18 @@ xcb_window_t X11Layers::ceiling() const {
 /// From the top downwards, so that none is ever above where it belongs.
 void X11Layers::restack(xcb_window_t ceiling) {
     xcb_window_t upper = ceiling;
-    for (const Ours& each : std::views::reverse(ours_)) {
+    for (auto each = ours_.crbegin(); each != ours_.crend(); ++each) {
         const std::array<std::uint32_t, 2> below{upper, XCB_STACK_MODE_BELOW};
         const std::uint32_t above = XCB_STACK_MODE_ABOVE;
         const auto cookie =
             upper == XCB_NONE
-                ? xcb_configure_window_checked(connection_, each.id, XCB_CONFIG_WINDOW_STACK_MODE, &above)
-                : xcb_configure_window_checked(connection_, each.id,
+                ? xcb_configure_window_checked(connection_, each->id, XCB_CONFIG_WINDOW_STACK_MODE, &above)
+                : xcb_configure_window_checked(connection_, each->id,
                                                XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE,
                                                below.data());
         // The one above may be gone by now.
         xcb_discard_reply(connection_, cookie.sequence);
-        upper = each.id;
+        upper = each->id;
     }
     xcb_flush(connection_);
 }

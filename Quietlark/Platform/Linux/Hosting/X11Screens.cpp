@@ -25,8 +25,8 @@ QString nameOf(const QScreen& screen) { return screen.model().isEmpty() ? screen
 
 QList<QScreen*> mainFirst() {
     QList<QScreen*> screens = QGuiApplication::screens();
-    std::ranges::stable_partition(
-        screens, [](const QScreen* screen) { return screen == QGuiApplication::primaryScreen(); });
+    std::stable_partition(screens.begin(), screens.end(),
+                          [](const QScreen* screen) { return screen == QGuiApplication::primaryScreen(); });
     return screens;
 }
 

@@ -39,7 +39,7 @@ bool X11SurfaceHost::blends() const { return desk_.compositing.blends(); }
 /// The X server of a Wayland session has nothing to show of what lies on the screen.
 std::optional<QImage> X11SurfaceHost::backdrop(const Screen& screen) const {
     QScreen* source = QGuiApplication::screenAt(screen.frame.center().toPoint());
-    if (!source || source->name().startsWith(QLatin1String("XWAYLAND"))) {
+    if (source == nullptr || source->name().startsWith(QLatin1String("XWAYLAND"))) {
         return {};
     }
     const QImage picture = source->grabWindow().toImage();

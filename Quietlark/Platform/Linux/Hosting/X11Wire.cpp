@@ -47,7 +47,7 @@ xcb_atom_t X11Wire::atom(const std::string& name) const {
 
 bool X11Wire::has(xcb_extension_t& extension) const {
     const auto* data = xcb_get_extension_data(get(), &extension);
-    return data && data->present;
+    return data != nullptr && data->present != 0;
 }
 
 void X11Wire::ask(unsigned sequence, Answer answer) {
@@ -91,7 +91,7 @@ void X11Wire::gatherEvents() {
 bool X11Wire::takeAnswer() {
     void* reply = nullptr;
     xcb_generic_error_t* error = nullptr;
-    if (questions_.empty() || !xcb_poll_for_reply(get(), questions_.front().sequence, &reply, &error)) {
+    if (questions_.empty() || xcb_poll_for_reply(get(), questions_.front().sequence, &reply, &error) == 0) {
         return false;
     }
     const std::unique_ptr<void, X11Free> ownedReply(reply);
