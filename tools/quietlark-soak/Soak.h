@@ -34,6 +34,7 @@ private:
     void look(const Scene& scene, double seconds);
     void pressTheIcon() const;
     void carryOut(const Act& act);
+    void tellWhenQuiet();
     void tell();
 
     std::filesystem::path folder_;
