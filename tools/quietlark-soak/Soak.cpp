@@ -29,6 +29,7 @@ constexpr double lookFor = 20;
 
 /// What is on the screen at the end of a day is waited for: it goes by itself or by a press of the icon.
 constexpr double longestShowing = 600;
+constexpr int calm = 30; ///< seconds without anything
 
 bool isAnythingShown() {
     return std::ranges::any_of(QApplication::topLevelWidgets(),
@@ -77,7 +78,8 @@ void Soak::second() {
     const Scene& scene = recording_.scenes[scene_];
     const double left = scene.until - loop_.now();
     const bool isTold = std::holds_alternative<act::Tell>(scene.atEnd);
-    if (left <= 0 && left > -longestShowing && isTold && isAnythingShown()) {
+    calmFor_ = isAnythingShown() ? 0 : calmFor_ + 1;
+    if (left <= 0 && left > -longestShowing && isTold && calmFor_ < calm) {
         look(scene, 1);
     } else if (left <= 0) {
         ++scene_;
@@ -98,6 +100,7 @@ void Soak::look(const Scene& scene, double seconds) {
     passed_ += seconds;
     if (!isAway && (isAt(passed_, lookEvery, 0) || isAt(passed_, lookEvery, lookFor))) {
         pressTheIcon();
+        calmFor_ = 0;
     }
 }
 

@@ -38,7 +38,7 @@ TEST(Soak, daysThatPassLeaveNothingBehind) {
     writeShortDays(recording, 5);
     LabProcess soak({VIRTUAL_DESKTOP, SOAK_PROGRAM, recording},
                     {{"QUIETLARK_PICTURE", folder / "screen.png"}, {"ASAN_OPTIONS", "detect_leaks=0"}});
-    const std::string told = soak.readAll(120);
+    const std::string told = soak.readAll(250);
     EXPECT_EQ(soak.wait(), 0) << told;
 }
 
