@@ -16,8 +16,8 @@ namespace quietlark::soak {
 
 namespace {
 
-/// The history grows by a line a break, and what is drawn with is kept for the next time.
-constexpr long heapAllowance = 256;         // KiB
+/// The history grows by a line a break, and glyphs that were drawn once are kept for the next time.
+constexpr long heapAllowance = 512;         // KiB
 constexpr long privateAllowance = 2 * 1024; // KiB
 
 long entriesOf(const char* folder) {
