@@ -63,19 +63,20 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                       .loginItem = platform_.loginItem.get(),
                       .accessibility = &accessibility_,
                       .calendar = systemCalendar()}),
-      surfaces_(
-          {.model = model_,
-           .loop = loop_,
-           .host = *host_,
-           .windows = *platform_.windows,
-           .screenLock = platform_.screenLock.get(),
-           .accessibility = &accessibility_,
-           .desktopLook = platform_.look.get(),
-           .tray = platform_.tray.get(),
-           .doors = {.openSettings = [this] { showSettings(); }, .quit = [] { QCoreApplication::quit(); }}}),
+      surfaces_({.model = model_,
+                 .loop = loop_,
+                 .host = *host_,
+                 .windows = *platform_.windows,
+                 .screenLock = platform_.screenLock.get(),
+                 .accessibility = &accessibility_,
+                 .desktopLook = platform_.look.get(),
+                 .tray = platform_.tray.get(),
+                 .doors = {.openSettings = [this] { settings().present(); },
+                           .quit = [] { QCoreApplication::quit(); }}}),
       termination_([] { QCoreApplication::quit(); }),
       processEnd_([this] { model_.prepareForTermination(); }) {
-    model_.openCollage = [this](auto, auto) { showSettings(); };
+    model_.openCollage = [this](auto period, auto date) { settings().presentCrew({period, date}); };
+    WumbleView::onPoke = [this](wumble::WumbleGesture gesture) { model_.petWasPoked(gesture); };
     WumbleView::desktopPointer = [this] { return host_->pointer(); };
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeActivation([this] { reopen(); });
@@ -110,18 +111,18 @@ void AppDelegate::reopen() {
     if (!isWelcomed()) {
         showWelcome();
     } else if (platform_.tray->isShown()) {
-        showSettings();
+        settings().present();
     } else {
         surfaces_.openPopover();
     }
 }
 
-void AppDelegate::showSettings() {
+SettingsWindow& AppDelegate::settings() {
     if (!settings_) {
         settings_ =
             std::make_unique<SettingsWindow>(model_, platform_.loginItem.get(), surfaces_.appearance());
     }
-    settings_->present();
+    return *settings_;
 }
 
 void AppDelegate::showWelcome() {
@@ -133,6 +134,7 @@ void AppDelegate::showWelcome() {
 
 AppDelegate::~AppDelegate() {
     WumbleView::desktopPointer = nullptr;
+    WumbleView::onPoke = nullptr;
     model_.prepareForTermination();
 }
 
@@ -141,7 +143,10 @@ void AppDelegate::carryOut(const command::RunApplication& options) {
         model_.startPreview(demoBreakSeconds);
     }
     if (options.openSettings) {
-        showSettings();
+        settings().present();
+    }
+    if (options.openCollage) {
+        model_.openCollage(wumble::Recap::Period::week, model_.state().now.value());
     }
     if (options.enableLaunchAtLogin) {
         model_.setOpenAtLogin(true);

@@ -38,7 +38,7 @@ private:
     bool isWelcomed() const;
     void reopen();
     void showWelcome();
-    void showSettings();
+    SettingsWindow& settings();
 
     MainLoop& loop_;
     Platform platform_;

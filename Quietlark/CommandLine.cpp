@@ -20,8 +20,8 @@ constexpr int badAppearance = 2;
 constexpr int unknownOption = 64;
 
 /// What the program itself reads. An option named here is built; the others are refused.
-constexpr std::array<std::string_view, 4> runningOptions{"--appearance", "--demo-break", "--open-settings",
-                                                         "--enable-launch-at-login"};
+constexpr std::array<std::string_view, 5> runningOptions{"--appearance", "--demo-break", "--open-settings",
+                                                         "--open-collage", "--enable-launch-at-login"};
 
 bool has(const Arguments& arguments, std::string_view option) {
     return std::ranges::find(arguments, option) != arguments.end();
@@ -141,6 +141,7 @@ Command commandFor(const Arguments& arguments) {
     }
     return command::RunApplication{.demoBreak = has(arguments, "--demo-break"),
                                    .openSettings = has(arguments, "--open-settings"),
+                                   .openCollage = has(arguments, "--open-collage"),
                                    .enableLaunchAtLogin = has(arguments, "--enable-launch-at-login")};
 }
 

@@ -15,6 +15,7 @@ namespace command {
 struct RunApplication {
     bool demoBreak = false;           ///< show a short preview at once
     bool openSettings = false;        ///< with the window of the settings
+    bool openCollage = false;         ///< and this week's pets in it
     bool enableLaunchAtLogin = false; ///< and tell in the program whether that worked
     bool operator==(const RunApplication&) const = default;
 };

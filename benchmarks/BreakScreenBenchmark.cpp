@@ -55,7 +55,11 @@ void entrance(benchmark::State& state) {
     needApplication();
     const QSize pixels(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     const auto scale = static_cast<double>(state.range(2));
-    PreviewStage stage({.dark = true}, [](auto& settings) { settings.nudgesBetween = 0; });
+    const auto style = static_cast<wumble::BreakScreenStyle>(state.range(3));
+    PreviewStage stage({.dark = true}, [style](auto& settings) {
+        settings.nudgesBetween = 0;
+        settings.breakScreenStyle = style;
+    });
     BreakOverlayController controller(stage.context());
     stage.model.install({.overlay = &controller});
     stage.start();
@@ -98,10 +102,13 @@ void entrance(benchmark::State& state) {
     stage.model.install({});
 }
 BENCHMARK(entrance)
-    ->Args({1920, 1080, 1})
-    ->Args({1920, 1080, 2})
-    ->Args({3840, 2160, 1})
-    ->Args({3840, 2160, 2})
+    ->ArgNames({"width", "height", "scale", "plain"})
+    ->Args({1920, 1080, 1, 1})
+    ->Args({1920, 1080, 2, 1})
+    ->Args({3840, 2160, 1, 1})
+    ->Args({3840, 2160, 2, 1})
+    ->Args({1920, 1080, 1, 0})
+    ->Args({3840, 2160, 2, 0})
     ->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "Quietlark/Model/AppModel.h"
+#include "Quietlark/Model/StatusLine.h"
 
 #include <algorithm>
 
@@ -52,9 +53,8 @@ bool AppModel::isPopoverShown() const {
 }
 
 bool AppModel::shouldShowHeadsUp() const {
-    const auto& hold = state_.hold.value();
     if (!std::holds_alternative<wumble::phase::Working>(state_.phase.value()) ||
-        (hold && std::holds_alternative<wumble::hold::Smart>(*hold))) {
+        holdOf<wumble::hold::Smart>(state_) != nullptr) {
         return false;
     }
     const auto& settings = state_.settings.value();
@@ -86,11 +86,11 @@ void AppModel::settleWarnings() {
     if (state_.headsUpVisible.value() && !shouldShowHeadsUp()) {
         hideHeadsUp();
     }
-    const auto& hold = state_.hold.value();
     const double left = state_.secondsUntilBreak.value();
     const bool isWorking = std::holds_alternative<wumble::phase::Working>(state_.phase.value());
-    const bool holdsForTyping = hold && std::holds_alternative<wumble::hold::Typing>(*hold);
-    const bool isCounting = !hold && left > 0 && left <= state_.settings.value().countdownDuration;
+    const bool holdsForTyping = isHeldByTyping(state_);
+    const bool isCounting =
+        !state_.hold.value() && left > 0 && left <= state_.settings.value().countdownDuration;
     const bool show = isWorking && (holdsForTyping || isCounting);
     if (show && !countdownVisible_ && !holdsForTyping) {
         hideHeadsUp();

@@ -107,17 +107,10 @@ std::string runningLine(const AppState& state) {
 }
 
 std::string workingLine(const AppState& state) {
-    const auto& hold = state.hold.value();
-    if (hold && std::holds_alternative<wumble::hold::Smart>(*hold)) {
-        return waitingLine(std::get<wumble::hold::Smart>(*hold).activity, state);
+    if (const auto* smart = holdOf<wumble::hold::Smart>(state)) {
+        return waitingLine(smart->activity, state);
     }
-    return hold && std::holds_alternative<wumble::hold::Typing>(*hold) ? typingLine(state)
-                                                                       : runningLine(state);
-}
-
-template <class Hold> bool holdsFor(const AppState& state) {
-    const auto& hold = state.hold.value();
-    return hold && std::holds_alternative<Hold>(*hold);
+    return isHeldByTyping(state) ? typingLine(state) : runningLine(state);
 }
 
 } // namespace
@@ -152,13 +145,14 @@ wumble::WumbleMood mood(const AppState& state) {
     if (isAhead(state.okayUntil.value(), now)) {
         return WumbleMood::snoozed;
     }
-    if (holdsFor<wumble::hold::Typing>(state)) {
+    if (isHeldByTyping(state)) {
         return typingAlongMood(state);
     }
     if (state.headsUpVisible.value()) {
         return WumbleMood::peek;
     }
-    const bool isHumming = holdsFor<wumble::hold::Smart>(state) || isAhead(state.readingUntil.value(), now);
+    const bool isHumming =
+        holdOf<wumble::hold::Smart>(state) != nullptr || isAhead(state.readingUntil.value(), now);
     return isHumming ? WumbleMood::humming : WumbleMood::idle;
 }
 
@@ -184,12 +178,11 @@ std::optional<double> typingHoldLeft(const AppState& state) {
 bool notWaitingShown(const AppState& state) {
     return state.ignoringSmartPause.value() &&
            std::holds_alternative<wumble::phase::Working>(state.phase.value()) &&
-           state.rawSmartActivity.value() && !holdsFor<wumble::hold::Smart>(state);
+           state.rawSmartActivity.value() && holdOf<wumble::hold::Smart>(state) == nullptr;
 }
 
 std::optional<std::string_view> shareKeepsWaitingNote(const AppState& state) {
-    const auto& hold = state.hold.value();
-    const auto* smart = hold ? std::get_if<wumble::hold::Smart>(&*hold) : nullptr;
+    const auto* smart = holdOf<wumble::hold::Smart>(state);
     const bool waitsForCall =
         smart != nullptr && std::holds_alternative<wumble::activity::Meeting>(smart->activity);
     if (!waitsForCall || !state.liveShare.value() ||

@@ -16,6 +16,15 @@ std::string statusLine(const AppState& state, const wumble::Calendar& calendar);
 
 wumble::WumbleMood mood(const AppState& state);
 
+/// What keeps the break waiting, where it is a hold of that kind; null otherwise.
+template <class Hold> const Hold* holdOf(const AppState& state) {
+    const auto& hold = state.hold.value();
+    return hold ? std::get_if<Hold>(&*hold) : nullptr;
+}
+
+/// The break waits for the hands to rest.
+inline bool isHeldByTyping(const AppState& state) { return holdOf<wumble::hold::Typing>(state) != nullptr; }
+
 /// The mood while a break waits for the hands to rest.
 wumble::WumbleMood typingAlongMood(const AppState& state);
 

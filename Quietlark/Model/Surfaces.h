@@ -59,9 +59,9 @@ public:
 };
 
 /// The screen that takes over the displays for a break.
-class BreakOverlay {
+class BreakScreenPresenting {
 public:
-    virtual ~BreakOverlay() = default;
+    virtual ~BreakScreenPresenting() = default;
 
     /// Puts it up, or rebuilds it for another break.
     virtual void show(const wumble::ActiveBreak& activeBreak) = 0;
@@ -74,7 +74,7 @@ public:
 struct Surfaces {
     StatusItem* statusItem = nullptr;
     HeadsUp* headsUp = nullptr;
-    BreakOverlay* overlay = nullptr;
+    BreakScreenPresenting* overlay = nullptr;
     Toasts* toasts = nullptr;
     Countdown* countdown = nullptr;
 };

@@ -81,14 +81,6 @@ void WumbleView::setCalm(bool calm) { doing_.calm = calm; }
 
 void WumbleView::setAppearance(const Appearance& appearance) { quietlark::setAppearance(*this, appearance); }
 
-void WumbleView::setTweaks(const SoftWumble::Tweaks& tweaks) {
-    if (tweaks_ != tweaks) {
-        tweaks_ = tweaks;
-        memory_.tops.clear();
-        update();
-    }
-}
-
 void WumbleView::setClock(WumbleClock clock) {
     clock_ = std::move(clock);
     doing_.clockStart = clock_.start;
@@ -104,7 +96,6 @@ void WumbleView::setFamilyName(const QString& name) {
 
 void WumbleView::setFollowsPointer(bool follows) { doing_.gazes = follows; }
 void WumbleView::setGaze(std::optional<wumble::Point> gaze) { gaze_ = gaze; }
-void WumbleView::setSticker(SoftWumble::Sticker sticker) { sticker_ = sticker; }
 
 void WumbleView::setRoom(double room) {
     room_ = std::clamp(room, 0.0, 0.45);
@@ -214,7 +205,7 @@ WumblePose WumbleView::pose(double now) {
         if (isNew) {
             const double then = static_cast<double>(key - back) * WumbleJelly::step;
             const WumblePose past = firmPose(then, memory_.pointer(then), reduceMotion);
-            place->second = SoftWumble::top(past, doing_.day, tweaks_);
+            place->second = SoftWumble::top(past, doing_.day);
             place->second.x += past.lean * jelly.lean;
         }
         history.push_back(place->second);
@@ -274,7 +265,7 @@ void WumbleView::paintEvent(QPaintEvent*) {
     const WumblePose shown = pose(clock_.now());
     showsGesture_ = shown.gesture != WumbleGesture::still;
     const Appearance look = appearanceOf(*this);
-    SoftWumble::draw(painter, place, doing_.day, shown, sticker_, stickerColours(look, tweaks_));
+    SoftWumble::draw(painter, place, doing_.day, shown, SoftWumble::Sticker::dieCut, stickerColours(look));
     if (hasFocus()) {
         const double inside = focusRingReach;
         drawFocusRing(painter, QRectF(rect()).adjusted(inside, inside, -inside, -inside), Radius::control,
@@ -324,17 +315,9 @@ void WumbleView::keyPressEvent(QKeyEvent* event) {
     poke();
 }
 
-SoftWumble::Tweaks stickerColours(Appearance appearance, SoftWumble::Tweaks tweaks) {
-    tweaks.stickerWhite = tweaks.stickerWhite.value_or(colour(Role::dieCut, appearance));
-    tweaks.stickerInk = tweaks.stickerInk.value_or(colour(Role::keyline, appearance));
-    return tweaks;
-}
-
-void drawWumbleStill(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day,
-                     wumble::WumbleMood mood, Appearance appearance, SoftWumble::Tweaks tweaks) {
-    const auto pose = WumbleAnimator::pose(mood, day, 0, 0, true, true, WumbleJelly::stiff);
-    SoftWumble::draw(painter, place, day, pose, SoftWumble::Sticker::dieCut,
-                     stickerColours(appearance, tweaks));
+SoftWumble::Tweaks stickerColours(Appearance appearance) {
+    return {.stickerWhite = colour(Role::dieCut, appearance),
+            .stickerInk = colour(Role::keyline, appearance)};
 }
 
 } // namespace quietlark

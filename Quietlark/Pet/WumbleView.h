@@ -40,14 +40,12 @@ public:
     void setCalm(bool calm);
     /// Without one it has that of the widgets it is in.
     void setAppearance(const Appearance& appearance);
-    void setTweaks(const SoftWumble::Tweaks& tweaks);
     void setClock(WumbleClock clock);
     void setRandom(wumble::Random random);
     void setFamilyName(const QString& name); ///< "Wumble" unless the person named them
     void setFollowsPointer(bool follows);
     void setGaze(std::optional<wumble::Point> gaze); ///< instead of the pointer
     void setPokable(bool pokable);
-    void setSticker(SoftWumble::Sticker sticker);
 
     /// The part of the widget on each side that is left free for hops and stretches, 0 to below a half.
     void setRoom(double room);
@@ -85,8 +83,6 @@ private:
     void nextFrame();
     void keepMoving();
 
-    SoftWumble::Tweaks tweaks_;
-    SoftWumble::Sticker sticker_ = SoftWumble::Sticker::dieCut;
     WumbleClock clock_ = usualClock();
     wumble::Random random_;
     QString familyName_;
@@ -101,11 +97,7 @@ private:
     QTimer frames_;
 };
 
-/// Draws one fixed pose, for pictures and small places.
-void drawWumbleStill(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day,
-                     wumble::WumbleMood mood, Appearance appearance, SoftWumble::Tweaks tweaks = {});
-
 /// The rim and keyline of that appearance.
-SoftWumble::Tweaks stickerColours(Appearance appearance, SoftWumble::Tweaks tweaks = {});
+SoftWumble::Tweaks stickerColours(Appearance appearance);
 
 } // namespace quietlark

@@ -96,6 +96,9 @@ public:
     /// Absent where this session doesn't tell.
     virtual std::optional<QPointF> pointer() const = 0;
 
+    /// The same at this very moment, at the cost of a short wait: for a click, which may have come with the pointer.
+    virtual std::optional<QPointF> pointerNow() const { return pointer(); }
+
     /// A press of a button anywhere outside our own surfaces, and another program coming to the front, for as long as
     /// the answer lives.
     [[nodiscard]] virtual Subscription observeOutside(std::function<void()> pressedOrLeft) = 0;

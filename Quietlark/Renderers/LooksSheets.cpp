@@ -86,6 +86,7 @@ std::vector<Cell> props(Appearance appearance) {
         {"sunk", {.sag = 22}},
     };
     std::vector<Cell> cells;
+    cells.reserve(std::size(poses));
     for (const auto& [caption, pose] : poses) {
         cells.push_back(petCell(caption, samplePet(someBase(cells.size()), withCheeks), pose, appearance));
     }

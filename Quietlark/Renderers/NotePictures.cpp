@@ -215,8 +215,10 @@ QImage laidOut(const std::vector<QImage>& pictures, int columns, const Appearanc
     QPainter painter(&image);
     drawStickerBackground(painter, QRectF({}, image.deviceIndependentSize()), appearance);
     for (int place = 0; place < static_cast<int>(pictures.size()); ++place) {
-        const QPointF corner((place % columns) * cell.width(), (place / columns) * cell.height());
-        painter.drawImage(corner, pictures[static_cast<std::size_t>(place)]);
+        const int column = place % columns;
+        const int row = place / columns;
+        painter.drawImage(QPointF(column * cell.width(), row * cell.height()),
+                          pictures[static_cast<std::size_t>(place)]);
     }
     return image;
 }
@@ -289,6 +291,9 @@ bool renderNotePictures(const std::filesystem::path& folder, Appearance appearan
     Appearance large = appearance;
     large.textScale = 1.5;
     saved = renderNotes(folder, 1, "-large-text.png", large) && saved;
+    Appearance firm = appearance;
+    firm.moreContrast = true;
+    saved = renderNotes(folder, 1, "-more-contrast.png", firm) && saved;
     for (const auto entrance : {wumble::NoteEntrance::slap, wumble::NoteEntrance::eye}) {
         const auto name = "motion-" + std::string(enumText(entrance)) + ".png";
         saved = save(motionStrip(entrance, 1, appearance), folder, name) && saved;

@@ -28,6 +28,9 @@ constexpr std::array moments{
     Moment{"breath-reached", wumble::Toast::breath, 18.0, true},
 };
 
+/// One of each nudge, in the middle of what it asks for.
+constexpr std::array plain{moments[0], moments[3], moments[6]};
+
 QImage cardAt(const Moment& moment, const Appearance& appearance, double scale) {
     NudgeShow show(moment.toast(1), appearance);
     if (moment.reached) {
@@ -48,7 +51,14 @@ bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance
     }
     Appearance large = appearance;
     large.textScale = 1.5;
-    return save(cardAt(moments.front(), large, 2), folder, "blink-large-text@2x.png") && saved;
+    Appearance firm = appearance;
+    firm.moreContrast = true;
+    for (const auto& moment : plain) {
+        const std::string name = moment.name;
+        saved = save(cardAt(moment, large, 2), folder, name + "-large-text@2x.png") && saved;
+        saved = save(cardAt(moment, firm, 2), folder, name + "-more-contrast@2x.png") && saved;
+    }
+    return saved;
 }
 
 } // namespace quietlark

@@ -38,7 +38,7 @@ bool renderNudgeCards(const std::filesystem::path& folder, Appearance appearance
 /// The popover of the tray in the states that it comes in.
 bool renderTrayPictures(const std::filesystem::path& folder, Appearance appearance);
 
-/// The window of the first run.
+/// The window of the first run and that of the settings.
 bool renderWelcomePictures(const std::filesystem::path& folder, Appearance appearance);
 
 /// The break screen in each of its states, at one and two pixels a point.

@@ -17,7 +17,7 @@ constexpr wumble::Date monday{1773046800}; ///< 9 March 2026, 9:00 in UTC
 /// What a program that was closed over the weekend would have left.
 std::filesystem::path furnish(const QTemporaryDir& folder, const PreviewStage::Choose& choose, int revealed,
                               int restDays) {
-    const std::filesystem::path path = folder.path().toStdString();
+    std::filesystem::path path = folder.path().toStdString();
     wumble::Storage storage(path);
     wumble::WumbleSettings settings;
     choose(settings);

@@ -30,7 +30,8 @@ QImage sheet(const std::vector<Cell>& cells, const SheetLayout& layout) {
     painter.setFont(font(TypeToken::caption));
     for (int place = 0; place < count; ++place) {
         const auto& cell = cells[static_cast<std::size_t>(place)];
-        const QPointF corner(place % columns * layout.cell, place / columns * height);
+        const int row = place / columns;
+        const QPointF corner(place % columns * layout.cell, row * height);
         cell.draw(painter, QRectF(corner, size));
         if (hasCaptions(layout)) {
             painter.setPen(layout.ink);

@@ -1,10 +1,11 @@
 #include "Quietlark/Renderers/PetSheets.h"
+#include "Quietlark/Renderers/PressNamed.h"
 #include "Quietlark/Renderers/PreviewStage.h"
 #include "Quietlark/Renderers/Sheet.h"
 #include "Quietlark/Surfaces/Tray/StatusItemController.h"
 
-#include <QAbstractButton>
 #include <QApplication>
+#include <QWidget>
 
 #include <array>
 #include <string>
@@ -55,15 +56,10 @@ struct Show {
     /// Presses the button of that name in the popover.
     void press(std::string_view name) {
         open();
-        for (QWidget* root : QApplication::topLevelWidgets()) {
-            for (auto* button : root->findChildren<QAbstractButton*>()) {
-                if (button->accessibleName() ==
-                        QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())) &&
-                    root->objectName() == QLatin1String(popover)) {
-                    button->click();
-                    stage.advance(0.1);
-                    return;
-                }
+        for (const QWidget* root : QApplication::topLevelWidgets()) {
+            if (root->objectName() == QLatin1String(popover) && pressNamed(*root, name)) {
+                stage.advance(0.1);
+                return;
             }
         }
     }
@@ -90,7 +86,7 @@ void allowSkips(wumble::WumbleSettings& settings) {
 void onlyInTheAfternoon(wumble::WumbleSettings& settings) {
     settings.officeHoursEnabled = true;
     for (auto& day : settings.officeHours) {
-        day.startMinute = 13 * 60;
+        day.startMinute = wumble::Counter{13} * 60;
     }
 }
 
@@ -135,6 +131,8 @@ const std::array scenes{
           [](Show& show) {
               show.stage.model.renameWumble("Wumblefritz von und zu Habenichts der Allerletzte");
           }},
+    Scene{"other-script", 4,
+          [](Show& show) { show.stage.model.renameWumble("\u0648\u0648\u0645\u0628\u0644 \U0001F361"); }},
 };
 
 QImage picture(const Scene& scene, const Appearance& appearance, double scale) {
@@ -155,6 +153,9 @@ bool renderTrayPictures(const std::filesystem::path& folder, Appearance appearan
         saved = save(picture(scene, appearance, 2), folder, name + ".png") && saved;
     }
     saved = save(picture(scenes.front(), appearance, 1), folder, "popover-working-1x.png") && saved;
+    Appearance sharp = appearance;
+    sharp.moreContrast = true;
+    saved = save(picture(scenes.front(), sharp, 2), folder, "popover-high-contrast.png") && saved;
     appearance.textScale = 1.5;
     return save(picture(scenes.front(), appearance, 2), folder, "popover-large-text.png") && saved;
 }

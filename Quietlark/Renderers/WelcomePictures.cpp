@@ -1,10 +1,10 @@
 #include "Quietlark/Renderers/PetSheets.h"
+#include "Quietlark/Renderers/PressNamed.h"
 #include "Quietlark/Renderers/PreviewStage.h"
 #include "Quietlark/Renderers/Sheet.h"
+#include "Quietlark/Settings/SettingsView.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Welcome/WelcomeView.h"
-
-#include <QAbstractButton>
 
 #include <array>
 #include <string>
@@ -18,18 +18,9 @@ struct NoLogin final : LoginItem {
     bool isEnabled() const override { return false; }
     bool canRegister() const override { return false; }
     std::optional<std::string> set(bool) override {
-        return "Open at login only works for the copy of Quietlark in Applications.";
+        return "Open at login only works for an installed copy of Quietlark.";
     }
 };
-
-QAbstractButton* button(QWidget& root, std::string_view name) {
-    for (auto* candidate : root.findChildren<QAbstractButton*>()) {
-        if (candidate->accessibleName().toStdString() == name) {
-            return candidate;
-        }
-    }
-    return nullptr;
-}
 
 struct Scene {
     const char* name;
@@ -40,6 +31,15 @@ const std::array scenes{
     Scene{"welcome", {}},
     Scene{"welcome-customized", {WelcomeWords::customize}},
 };
+
+QImage drawn(QWidget& view, double scale) {
+    view.resize(view.sizeHint());
+    QImage image(view.size() * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::transparent);
+    view.render(&image);
+    return image;
+}
 
 QImage picture(const Scene& scene, const Appearance& appearance, double scale) {
     PreviewStage stage(
@@ -52,17 +52,24 @@ QImage picture(const Scene& scene, const Appearance& appearance, double scale) {
     view.refresh();
     view.show();
     for (const std::string_view name : scene.presses) {
-        if (QAbstractButton* pressed = button(view, name)) {
-            pressed->click();
-        }
+        pressNamed(view, name);
     }
     stage.advance(0.5);
-    view.resize(view.sizeHint());
-    QImage image(view.size() * scale, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(scale);
-    image.fill(Qt::transparent);
-    view.render(&image);
-    return image;
+    return drawn(view, scale);
+}
+
+QImage settingsPicture(const Appearance& appearance, double scale) {
+    constexpr int restDays = 9;
+    PreviewStage stage(
+        appearance, [](auto&) {}, 4, restDays);
+    stage.start();
+    NoLogin login;
+    SettingsView view(stage.model, &login);
+    view.setAttribute(Qt::WA_DontShowOnScreen);
+    setAppearance(view, appearance);
+    view.show();
+    stage.advance(0.5);
+    return drawn(view, scale);
 }
 
 } // namespace
@@ -73,7 +80,9 @@ bool renderWelcomePictures(const std::filesystem::path& folder, Appearance appea
         saved = save(picture(scene, appearance, 2), folder, std::string(scene.name) + ".png") && saved;
     }
     saved = save(picture(scenes.front(), appearance, 1), folder, "welcome-1x.png") && saved;
+    saved = save(settingsPicture(appearance, 2), folder, "settings.png") && saved;
     appearance.textScale = 1.5;
+    saved = save(settingsPicture(appearance, 1), folder, "settings-large-text.png") && saved;
     return save(picture(scenes.back(), appearance, 1), folder, "welcome-large-text.png") && saved;
 }
 

@@ -1,5 +1,6 @@
 #include "Quietlark/Settings/SettingsView.h"
 
+#include "Quietlark/Settings/CrewCard.h"
 #include "Quietlark/Surfaces/TextBlock.h"
 #include "Quietlark/Theme/Controls/Segments.h"
 #include "Quietlark/Theme/Controls/StickerSlider.h"
@@ -22,11 +23,21 @@ namespace {
 constexpr int usualWidth = 620;
 constexpr int edge = 24;
 constexpr int groupGap = 16;
+constexpr int soundsGap = 8; ///< above the switches that belong together
 constexpr int sliderSteps = 100;
 
 constexpr std::array nudgeChoices{0, 1, 2};
 constexpr std::array appearances{wumble::Appearance::system, wumble::Appearance::light,
                                  wumble::Appearance::dark};
+
+struct Sound {
+    SettingsWords::Row words;
+    bool wumble::WumbleSettings::*field;
+};
+constexpr std::array sounds{Sound{SettingsWords::breakSounds, &wumble::WumbleSettings::breakSoundsEnabled},
+                            Sound{SettingsWords::alertSounds, &wumble::WumbleSettings::alertSoundsEnabled},
+                            Sound{SettingsWords::nudgeSounds, &wumble::WumbleSettings::reminderSoundsEnabled},
+                            Sound{SettingsWords::pokeSounds, &wumble::WumbleSettings::pokeSoundsEnabled}};
 
 QWidget* row(const SettingsWords::Row& words, QWidget* control) {
     return paperRow(words.title, words.detail, control);
@@ -41,6 +52,9 @@ SettingsView::SettingsView(AppModel& model, LoginItem* loginItem, QWidget* paren
     column->setSpacing(groupGap);
     column->addWidget(breaks());
     column->addWidget(general());
+    crew_ = new CrewCard(model);
+    crew_->changedSize = [this] { wantsOtherSize(); };
+    column->addWidget(crew_);
     column->addStretch(1);
     followed_.push_back(observe(model_.state().settings, [this] { refresh(); }));
     followed_.push_back(observe(model_.state().loginItemError, [this] { refresh(); }));
@@ -72,9 +86,12 @@ QWidget* SettingsView::general() {
     }
     column->addWidget(appearanceRow());
     column->addWidget(volumeRow());
+    column->addSpacing(soundsGap);
     column->addWidget(new TextBlock(text(SettingsWords::whatSounds),
                                     {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 2}));
-    column->addWidget(soundsRow());
+    for (const auto& [words, field] : sounds) {
+        column->addWidget(soundRow(words, field));
+    }
     return card;
 }
 
@@ -100,10 +117,10 @@ QWidget* SettingsView::longEveryRow() {
     constexpr auto& counts = wumble::WumbleSettings::longBreakEveryChoices;
     auto* made = new Segments;
     const auto lengths = [this] {
-        std::vector<double> all;
-        for (const wumble::Counter count : counts) {
-            all.push_back(settings().workInterval * static_cast<double>(count));
-        }
+        std::vector<double> all(counts.size());
+        std::ranges::transform(counts, all.begin(), [this](wumble::Counter count) {
+            return settings().workInterval * static_cast<double>(count);
+        });
         return all;
     };
     made->setChoices(durations(lengths()));
@@ -145,13 +162,13 @@ QWidget* SettingsView::appearanceRow() {
     return row(SettingsWords::appearance, made);
 }
 
-QWidget* SettingsView::soundsRow() {
-    auto* made = new StickerSwitch(text(SettingsWords::sounds.title));
-    QObject::connect(made, &QAbstractButton::clicked, this, [this](bool on) {
-        model_.update([&](wumble::WumbleSettings& changed) { changed.breakSoundsEnabled = on; });
+QWidget* SettingsView::soundRow(const SettingsWords::Row& words, bool wumble::WumbleSettings::*field) {
+    auto* made = new StickerSwitch(text(words.title));
+    QObject::connect(made, &QAbstractButton::clicked, this, [this, field](bool on) {
+        model_.update([&](wumble::WumbleSettings& changed) { changed.*field = on; });
     });
-    follow([this, made] { made->setChecked(settings().breakSoundsEnabled); });
-    return row(SettingsWords::sounds, made);
+    follow([this, made, field] { made->setChecked(settings().*field); });
+    return row(words, made);
 }
 
 QWidget* SettingsView::volumeRow() {

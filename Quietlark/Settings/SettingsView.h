@@ -9,6 +9,7 @@
 
 namespace quietlark {
 
+class CrewCard;
 class Segments;
 class StickerSwitch;
 class TextBlock;
@@ -18,6 +19,9 @@ class SettingsView : public PaperView {
 public:
     /// Both must outlive it; the login item may be missing, and its row with it.
     SettingsView(AppModel& model, LoginItem* loginItem, QWidget* parent = nullptr);
+
+    /// The pets of the week or month that was asked for last.
+    CrewCard& crew() { return *crew_; }
 
 private:
     QWidget* breaks();
@@ -29,7 +33,7 @@ private:
     QWidget* longEveryRow();
     QWidget* nudgesRow();
     QWidget* appearanceRow();
-    QWidget* soundsRow();
+    QWidget* soundRow(const SettingsWords::Row& words, bool wumble::WumbleSettings::*field);
     QWidget* volumeRow();
     QWidget* loginRow();
     void follow(std::function<void()> refresh);
@@ -39,6 +43,7 @@ private:
 
     AppModel& model_;
     LoginItem* loginItem_;
+    CrewCard* crew_ = nullptr;
     TextBlock* loginError_ = nullptr;
     std::vector<std::function<void()>> controls_; ///< each brings one control up to date
     std::vector<QPropertyNotifier> followed_;

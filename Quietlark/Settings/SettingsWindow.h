@@ -14,6 +14,9 @@ public:
     /// Opens it, or brings it to the front where it is open.
     void present() { window_.present(); }
 
+    /// The same, at the pets of a week or a month.
+    void presentCrew(const CrewAnchor& anchor);
+
     QWidget& window() { return window_.window(); }
 
 private:

@@ -23,7 +23,10 @@ inline constexpr Row nudges{"Nudges between breaks", "Blink, sit up, breathe."};
 inline constexpr Row login{"Open Quietlark when I log in"};
 inline constexpr Row appearance{"Appearance", "The break screen is dark in all three."};
 inline constexpr std::string_view whatSounds = "What makes a sound";
-inline constexpr Row sounds{"A break starting and ending"};
+inline constexpr Row breakSounds{"A break starting and ending"};
+inline constexpr Row alertSounds{"The heads-up"};
+inline constexpr Row nudgeSounds{"Nudges"};
+inline constexpr Row pokeSounds{"Poking Wumble"};
 inline constexpr Row volume{"Volume", "All the way down for silence."};
 
 } // namespace quietlark::SettingsWords

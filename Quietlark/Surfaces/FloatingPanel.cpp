@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <ranges>
-#include <span>
 #include <vector>
 
 namespace quietlark {
@@ -23,20 +22,6 @@ Rect pixelsOf(const Screen& screen) {
             screen.frame.height() * screen.scale};
 }
 
-/// The place in `places` of what a rectangle has most in common with; absent where it meets none.
-std::optional<std::size_t> nearest(const Rect& rect, std::span<const Rect> places) {
-    std::optional<std::size_t> best;
-    double largest = 0;
-    for (std::size_t place = 0; place < places.size(); ++place) {
-        const double area = commonArea(rect, places[place]);
-        if (area > largest) {
-            largest = area;
-            best = place;
-        }
-    }
-    return best;
-}
-
 /// A window's pixels, as the window system counts them, in points. By the display that shows most of it.
 class Points {
 public:
@@ -50,8 +35,8 @@ public:
     }
 
     Rect of(const Rect& pixels) const {
-        const auto display = nearest(pixels, displays_);
-        const auto screen = display ? nearest(displays_[*display], pixels_) : std::nullopt;
+        const auto display = placeOfMostInCommon(pixels, displays_);
+        const auto screen = display ? placeOfMostInCommon(displays_[*display], pixels_) : std::nullopt;
         if (!screen) {
             return pixels;
         }

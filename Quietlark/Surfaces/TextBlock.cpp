@@ -1,5 +1,6 @@
 #include "Quietlark/Surfaces/TextBlock.h"
 
+#include "Quietlark/Surfaces/SpokenText.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 
 #include <QPainter>
@@ -22,6 +23,7 @@ TextBlock::TextBlock(const QString& text, const TextStyle& style, QWidget* paren
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     setAccessibleName(text);
+    readAsText(*this);
 }
 
 void TextBlock::setText(const QString& text) {

@@ -14,28 +14,18 @@ namespace {
 constexpr double contrastLine = 1; ///< what more contrast adds to an outline
 constexpr double paperDots = 16;   ///< between two dots
 constexpr double dotRadius = 0.9;
-constexpr double tagPadding = 8;
-constexpr double tagAir = 3; ///< above and below its words
-constexpr double widestTag = 240;
 constexpr double ringLine = 2;
 constexpr double ringGap = 2; ///< between the control and the ring
 
-double outlineOf(const StickerStyle& style, const Appearance& appearance) {
-    return style.outline > 0 && appearance.moreContrast ? style.outline + contrastLine : style.outline;
-}
-
-TextStyle tagText(Surface fill) {
-    return {.token = TypeToken::caption,
-            .ink = ink(fill),
-            .alignment = Qt::AlignCenter,
-            .weight = QFont::DemiBold};
-}
-
 } // namespace
+
+double outlineWidth(double wanted, const Appearance& appearance) {
+    return wanted > 0 && appearance.moreContrast ? wanted + contrastLine : wanted;
+}
 
 void drawSticker(QPainter& painter, const QRectF& rect, const StickerStyle& style,
                  const Appearance& appearance) {
-    const double line = outlineOf(style, appearance);
+    const double line = outlineWidth(style.outline, appearance);
     const double radius = std::min({style.radius, rect.width() / 2, rect.height() / 2});
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -76,20 +66,6 @@ void drawDotGrid(QPainter& painter, const QRectF& rect, double spacing, const QC
         painter.translate(0, spacing);
     }
     painter.restore();
-}
-
-QSizeF stickerTagSize(const QString& text, const Appearance& appearance) {
-    const QSizeF words = measureText(text, tagText(Surface::card), widestTag, appearance);
-    return words + QSizeF(2 * tagPadding, 2 * tagAir);
-}
-
-void drawStickerTag(QPainter& painter, const QPointF& center, const QString& text, Surface fill,
-                    const Appearance& appearance) {
-    QRectF pill({0, 0}, stickerTagSize(text, appearance));
-    pill.moveCenter(center);
-    drawSticker(painter, pill, {.fill = fill, .radius = pill.height() / 2, .lift = Lift::flat}, appearance);
-    drawText(painter, pill.adjusted(tagPadding, tagAir, -tagPadding, -tagAir), text, tagText(fill),
-             appearance);
 }
 
 void drawFocusRing(QPainter& painter, const QRectF& rect, double radius, const Appearance& appearance) {

@@ -3,8 +3,6 @@
 #include "Quietlark/Theme/Sizes.h"
 
 #include <QPainterPath>
-#include <QSizeF>
-#include <QString>
 
 class QPainter;
 
@@ -18,6 +16,9 @@ struct StickerStyle {
     double outline = 1.5; ///< 0 for none; firmer with more contrast
 };
 
+/// How thick an outline of `wanted` points is drawn: firmer with more contrast, none at 0.
+double outlineWidth(double wanted, const Appearance& appearance);
+
 /// A flat fill with a firm outline inside `rect`. The hard shadow lies outside of it, to the right and down by the
 /// lift.
 void drawSticker(QPainter& painter, const QRectF& rect, const StickerStyle& style,
@@ -27,13 +28,6 @@ void drawSticker(QPainter& painter, const QRectF& rect, const StickerStyle& styl
 void drawStickerBackground(QPainter& painter, const QRectF& rect, const Appearance& appearance);
 
 void drawDotGrid(QPainter& painter, const QRectF& rect, double spacing, const QColor& dots);
-
-/// A word or two on a small pill of their own.
-void drawStickerTag(QPainter& painter, const QPointF& center, const QString& text, Surface fill,
-                    const Appearance& appearance);
-
-/// Without its shadow.
-QSizeF stickerTagSize(const QString& text, const Appearance& appearance);
 
 /// The line that shows which control has the keyboard: around `rect`, a little outside of it.
 void drawFocusRing(QPainter& painter, const QRectF& rect, double radius, const Appearance& appearance);

@@ -167,17 +167,17 @@ Lines setText(Setting& setting, const TextStyle& style, double width, double hei
 
 /// Where lines that were set narrower than the rectangle begin in it.
 double roomBeside(double room, Qt::Alignment visual) {
-    if (visual & Qt::AlignHCenter) {
+    if (visual.testFlag(Qt::AlignHCenter)) {
         return room / 2;
     }
-    return visual & Qt::AlignRight ? room : 0;
+    return visual.testFlag(Qt::AlignRight) ? room : 0;
 }
 
 double roomAbove(double room, Qt::Alignment alignment) {
-    if (alignment & Qt::AlignVCenter) {
+    if (alignment.testFlag(Qt::AlignVCenter)) {
         return room / 2;
     }
-    return alignment & Qt::AlignBottom ? room : 0;
+    return alignment.testFlag(Qt::AlignBottom) ? room : 0;
 }
 
 constexpr double anyHeight = 1e6;

@@ -82,7 +82,8 @@ QWidget* WelcomeView::rhythmCard() {
     auto* card = new PaperCard;
     QVBoxLayout* column = card->column();
     column->addWidget(words(WelcomeWords::pickARhythm, {.token = TypeToken::title}));
-    column->addWidget(lengths(form_.quickEvery(), form_.rhythm().quickEvery, &WelcomeForm::chooseQuickEvery));
+    column->addWidget(choices(form_.quickEvery(), everySoOften(form_.quickEvery()), form_.rhythm().quickEvery,
+                              &WelcomeForm::chooseQuickEvery));
     quick_ = new TextBlock({}, summary);
     long_ = new TextBlock({}, summary);
     column->addWidget(summaries());
@@ -114,21 +115,23 @@ QWidget* WelcomeView::details() {
     auto* rows = new QWidget;
     auto* column = bare<QVBoxLayout>(rows, 10);
     const WelcomeRhythm& now = form_.rhythm();
-    column->addWidget(detailRow(WelcomeWords::quickLength, lengths(form_.quickLengths(), now.quickLength,
-                                                                   &WelcomeForm::chooseQuickLength)));
-    column->addWidget(detailRow(WelcomeWords::longLength, lengths(form_.longLengths(), now.longLength,
-                                                                  &WelcomeForm::chooseLongLength)));
+    column->addWidget(
+        detailRow(WelcomeWords::quickLength, choices(form_.quickLengths(), durations(form_.quickLengths()),
+                                                     now.quickLength, &WelcomeForm::chooseQuickLength)));
+    column->addWidget(
+        detailRow(WelcomeWords::longLength, choices(form_.longLengths(), durations(form_.longLengths()),
+                                                    now.longLength, &WelcomeForm::chooseLongLength)));
     column->addWidget(detailRow(WelcomeWords::nudges, nudges()));
     return rows;
 }
 
-Segments* WelcomeView::lengths(const std::vector<double>& choices, double current,
+Segments* WelcomeView::choices(const std::vector<double>& seconds, const QStringList& words, double current,
                                void (WelcomeForm::*choose)(double)) {
     auto* made = new Segments;
-    made->setChoices(durations(choices));
-    made->setCurrent(placeOf(choices, current));
-    made->chosen = [this, &choices, choose](int place) {
-        (form_.*choose)(choices[static_cast<std::size_t>(place)]);
+    made->setChoices(words);
+    made->setCurrent(placeOf(seconds, current));
+    made->chosen = [this, &seconds, choose](int place) {
+        (form_.*choose)(seconds[static_cast<std::size_t>(place)]);
         refresh();
     };
     return made;

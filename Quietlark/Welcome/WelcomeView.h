@@ -39,7 +39,7 @@ private:
     QWidget* details();
     QWidget* loginCard();
     QWidget* actions();
-    Segments* lengths(const std::vector<double>& choices, double current,
+    Segments* choices(const std::vector<double>& seconds, const QStringList& words, double current,
                       void (WelcomeForm::*choose)(double));
     Segments* nudges();
     void customize(bool open);

@@ -1,23 +1,13 @@
 #pragma once
 
-#include <QWidget>
-
-class QVBoxLayout;
+#include "Quietlark/Theme/Controls/PaintedColumn.h"
 
 namespace quietlark {
 
 /// A card on the paper with things in it.
-class PaperCard : public QWidget {
+class PaperCard : public PaintedColumn {
 public:
-    explicit PaperCard(QWidget* parent = nullptr);
-
-    QVBoxLayout* column() const { return column_; }
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    QVBoxLayout* column_;
+    PaperCard();
 };
 
 } // namespace quietlark

@@ -2,10 +2,10 @@
 
 #include "Quietlark/Pet/AppIcon.h"
 #include "Quietlark/Theme/AppearanceScope.h"
+#include "Quietlark/Theme/Controls/PaperScroll.h"
 #include "Quietlark/Theme/Text.h"
 
 #include <QScreen>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace quietlark {
@@ -14,6 +14,8 @@ namespace {
 
 /// Of the screen that the window leaves free at least, for its frame and panels.
 constexpr QSize leftFree{40, 80};
+
+constexpr int partMargin = 16; ///< in sight around what was scrolled to
 
 } // namespace
 
@@ -27,19 +29,19 @@ PaperWindow::PaperWindow(std::string_view title, std::unique_ptr<QWidget> view,
     window_->setObjectName(QStringLiteral("quietlark.window"));
     window_->setWindowTitle(text(title));
     window_->setWindowIcon(AppIcon::ofWindows());
-    auto* scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setWidget(view.release());
+    scroll_ = new PaperScroll;
+    scroll_->setWidget(view.release());
     auto* whole = new QVBoxLayout(window_.get());
     whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(scroll);
+    whole->addWidget(scroll_);
     setAppearance(*window_, appearance.value());
 }
 
 void PaperWindow::present() {
     fit();
+    if (window_->focusWidget() == nullptr) {
+        window_->setFocus(); // nothing is marked until the person asks by Tab
+    }
     window_->show();
     window_->raise();
     window_->activateWindow();
@@ -51,6 +53,12 @@ void PaperWindow::fit() {
     const QSize wanted = view_->sizeHint().boundedTo(room);
     window_->setMinimumWidth(wanted.width());
     window_->resize(wanted);
+    scroll_->fitBar();
+}
+
+void PaperWindow::scrollTo(QWidget& part) {
+    view_->layout()->activate();
+    scroll_->ensureWidgetVisible(&part, 0, partMargin);
 }
 
 } // namespace quietlark

@@ -12,6 +12,8 @@
 
 namespace quietlark {
 
+class PaperScroll;
+
 /// An ordinary window of the program, as large as what it shows wants to be and the screen allows.
 class PaperWindow {
 public:
@@ -30,11 +32,15 @@ public:
     /// Takes the size that the view wants now.
     void fit();
 
+    /// Brings a part of the view into sight.
+    void scrollTo(QWidget& part);
+
     QWidget& window() { return *window_; }
 
 private:
     std::unique_ptr<QWidget> window_;
     QWidget* view_;
+    PaperScroll* scroll_;
     QPropertyNotifier appearanceWatch_;
 };
 

@@ -6,16 +6,7 @@ namespace wumble::NudgePlacement {
 
 std::optional<std::size_t> screen(const Rect& rect, double mainScreenHeight, std::span<const Rect> screens) {
     const Rect turned{rect.x, mainScreenHeight - rect.farY(), rect.width, rect.height};
-    std::optional<std::size_t> best;
-    double largest = 0;
-    for (std::size_t place = 0; place < screens.size(); ++place) {
-        const double area = commonArea(turned, screens[place]);
-        if (area > largest) {
-            largest = area;
-            best = place;
-        }
-    }
-    return best;
+    return placeOfMostInCommon(turned, screens);
 }
 
 Point origin(Size size, NudgeSpot spot, const Rect& frame) {

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
+#include <span>
+
 namespace wumble {
 
 /// Plain geometry in points. Which way y grows is said where a value is used.
@@ -44,6 +48,20 @@ constexpr double commonArea(const Rect& a, const Rect& b) {
     const double near = a.y > b.y ? a.y : b.y;
     const double far = a.farY() < b.farY() ? a.farY() : b.farY();
     return right > left && far > near ? (right - left) * (far - near) : 0;
+}
+
+/// The place in `places` of the rectangle that covers most of `rect`, the first of equals; absent where none meets it.
+constexpr std::optional<std::size_t> placeOfMostInCommon(const Rect& rect, std::span<const Rect> places) {
+    std::optional<std::size_t> best;
+    double largest = 0;
+    for (std::size_t place = 0; place < places.size(); ++place) {
+        const double area = commonArea(rect, places[place]);
+        if (area > largest) {
+            largest = area;
+            best = place;
+        }
+    }
+    return best;
 }
 
 } // namespace wumble

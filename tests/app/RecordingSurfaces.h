@@ -83,7 +83,7 @@ private:
     Told& told_;
 };
 
-struct RecordingOverlay final : BreakOverlay {
+struct RecordingOverlay final : BreakScreenPresenting {
     explicit RecordingOverlay(Told& told) : told_(told) {}
 
     void show(const wumble::ActiveBreak& activeBreak) override {

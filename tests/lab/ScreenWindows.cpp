@@ -24,7 +24,8 @@ std::optional<WindowPlace> windowPlace(const XServer& server, const std::string&
             *field = std::stoi(line.substr(equals + 1));
         }
     }
-    return place;
+    const bool isGoneMeanwhile = place.width == 0;
+    return isGoneMeanwhile ? std::nullopt : std::optional(place);
 }
 
 void click(const XServer& server, int x, int y) {

@@ -3,6 +3,8 @@
 #include "Quietlark/Pet/SoftWumble.h"
 
 #include <QImage>
+#include <gtest/gtest.h>
+#include <vector>
 
 namespace quietlark::test {
 
@@ -44,6 +46,15 @@ inline double difference(const QImage& a, const QImage& b) {
         }
     }
     return sum / (4.0 * a.width() * a.height());
+}
+
+/// Each of them can be told from every other.
+inline void expectAllDifferent(const std::vector<QImage>& pictures, double least) {
+    for (std::size_t one = 0; one < pictures.size(); ++one) {
+        for (std::size_t other = 0; other < one; ++other) {
+            EXPECT_GT(difference(pictures[one], pictures[other]), least) << one << " and " << other;
+        }
+    }
 }
 
 } // namespace quietlark::test

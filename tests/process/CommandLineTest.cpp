@@ -23,6 +23,7 @@ TEST(CommandLine, theFirstOptionOfTheTableDecidesAndAnUnknownOneOnlyWhereNoneDoe
         {{"word"}, RunApplication{}},
         {{"-x"}, RunApplication{}},
         {{"--demo-break"}, RunApplication{.demoBreak = true}},
+        {{"--open-collage"}, RunApplication{.openCollage = true}},
         {{"--demo-break", "--nonsense", "--worse"}, unknown("--nonsense")},
         {{"--"}, unknown("--")},
         {{"--Diagnose"}, unknown("--Diagnose")},

@@ -1,7 +1,7 @@
 #include "Quietlark/Surfaces/BreakScreen/BreakControls.h"
 
 #include "Quietlark/Surfaces/BreakScreen/BreakLayout.h"
-#include "Quietlark/Surfaces/BreakScreen/Fading.h"
+#include "Quietlark/Surfaces/Fading.h"
 #include "WumbleCore/Life/Vocabulary.h"
 #include "WumbleCore/Motion/MotionTokens.h"
 

@@ -14,23 +14,23 @@ namespace {
 
 constexpr double veil = 0.82; ///< of the page over the backdrop
 constexpr double dotSpacing = 28;
-constexpr int patch = 112; ///< points in which the dots of both grounds come round
+constexpr int patch = 112;             ///< points in which the dots of both grounds come round
+constexpr double faintest = 1.0 / 255; ///< opacity from which a pixel changes
+constexpr int stepsWhileUnseen = 2;    ///< frames that an entrance begins with
 
-/// As many pixels as the place has, to be copied one to one.
-QPixmap canvas(const QSize& size, double pixelsPerPoint, const std::function<void(QPainter&)>& draw) {
-    QPixmap pixmap(size * pixelsPerPoint);
-    pixmap.fill(Qt::black);
-    QPainter painter(&pixmap);
-    painter.scale(pixelsPerPoint, pixelsPerPoint);
-    draw(painter);
-    return pixmap;
+bool isVeiled(const BreakGround::Look& look) {
+    return look.style == wumble::BreakScreenStyle::blur && !look.appearance.reduceTransparency;
+}
+
+int patchPixels(double pixelsPerPoint) {
+    return std::max(1, static_cast<int>(std::lround(patch * pixelsPerPoint)));
 }
 
 /// Draws one patch and lays it out over everything: thousands of dots one by one would take longer than a frame.
 void drawPatches(QPainter& painter, const QRectF& whole,
                  const std::function<void(QPainter&, const QRectF&)>& draw) {
     const double scale = painter.deviceTransform().m11();
-    const int side = std::max(1, static_cast<int>(std::lround(patch * scale)));
+    const int side = patchPixels(scale);
     QPixmap tile(side, side);
     tile.fill(Qt::transparent);
     QPainter onTile(&tile);
@@ -48,39 +48,38 @@ void drawBackdrop(QPainter& painter, const QRectF& whole, const QImage& backdrop
     painter.drawImage(whole, backdrop);
 }
 
-void copy(QPainter& painter, const QRect& exposed, const QPixmap& from, double pixelsPerPoint) {
-    painter.save();
-    painter.scale(1 / pixelsPerPoint, 1 / pixelsPerPoint);
-    const QRectF pixels(QPointF(exposed.topLeft()) * pixelsPerPoint, QSizeF(exposed.size()) * pixelsPerPoint);
-    const QRect whole = pixels.toAlignedRect() & from.rect();
-    painter.drawPixmap(whole.topLeft(), from, whole);
-    painter.restore();
-}
-
-bool isSeenThrough(const BreakGround::Look& look) {
-    return look.style == wumble::BreakScreenStyle::blur && !look.appearance.reduceTransparency;
-}
-
 } // namespace
+
+void BreakGround::Canvas::paint(const QSize& pixels, double pixelsPerPoint, int rows, const Drawing& draw) {
+    if (pixmap_.size() != pixels) {
+        pixmap_ = QPixmap(pixels);
+        done_ = 0;
+    }
+    const int until = std::min(pixels.height() - done_, rows) + done_;
+    if (until <= done_) {
+        return;
+    }
+    QPainter painter(&pixmap_);
+    painter.setClipRect(0, done_, pixels.width(), until - done_);
+    painter.scale(pixelsPerPoint, pixelsPerPoint);
+    draw(painter);
+    done_ = until;
+}
+
+bool BreakGround::wantsBackdrop(const Look& look) { return !look.blends || isVeiled(look); }
+
+bool BreakGround::isVeil() const { return backdrop_ && isVeiled(look_); }
 
 void BreakGround::setLook(const Look& look) {
     if (look_ != look) {
         look_ = look;
-        whole_ = {};
+        paper_ = {};
+        veiled_ = {};
         behind_ = {};
     }
 }
 
-bool BreakGround::needsBackdrop(const Look& look) { return isSeenThrough(look) || !look.blends; }
-
-bool BreakGround::showsBackdrop() const { return isSeenThrough(look_) && backdrop_; }
-
-void BreakGround::drawWhole(QPainter& painter, const QRectF& whole) const {
-    if (!showsBackdrop()) {
-        return drawPatches(painter, whole, [&](QPainter& tile, const QRectF& place) {
-            drawStickerBackground(tile, place, look_.appearance);
-        });
-    }
+void BreakGround::drawVeiled(QPainter& painter, const QRectF& whole) const {
     drawBackdrop(painter, whole, *backdrop_);
     QColor page = colour(Role::page, look_.appearance);
     page.setAlphaF(static_cast<float>(veil));
@@ -90,30 +89,55 @@ void BreakGround::drawWhole(QPainter& painter, const QRectF& whole) const {
     });
 }
 
-void BreakGround::prepare(const QSize& size, double pixelsPerPoint) {
-    if (whole_.size() == size * pixelsPerPoint) {
+void BreakGround::prepare(const QSize& size, double pixelsPerPoint, int rows) {
+    const QRectF whole(QPointF(), size);
+    const QSize pixels = size * pixelsPerPoint;
+    if (!look_.blends && backdrop_) {
+        behind_.paint(pixels, pixelsPerPoint, pixels.height(),
+                      [&](QPainter& painter) { drawBackdrop(painter, whole, *backdrop_); });
+    }
+    if (isVeil()) {
+        veiled_.paint(pixels, pixelsPerPoint, rows, [&](QPainter& painter) { drawVeiled(painter, whole); });
         return;
     }
-    const QRectF whole(QPointF(), size);
-    whole_ = canvas(size, pixelsPerPoint, [&](QPainter& painter) { drawWhole(painter, whole); });
-    behind_ = {};
-    if (!look_.blends && backdrop_) {
-        behind_ = canvas(size, pixelsPerPoint,
-                         [&](QPainter& painter) { drawBackdrop(painter, whole, *backdrop_); });
+    const int patches = patchPixels(pixelsPerPoint);
+    paper_.paint({pixels.width(), patches}, pixelsPerPoint, patches, [&](QPainter& painter) {
+        drawPatches(painter, whole, [&](QPainter& tile, const QRectF& place) {
+            drawStickerBackground(tile, place, look_.appearance);
+        });
+    });
+}
+
+void BreakGround::copy(QPainter& painter, const QRect& pixels) const {
+    if (isVeil()) {
+        painter.drawPixmap(pixels.topLeft(), veiled_.pixmap(), pixels);
+        return;
+    }
+    const int patches = paper_.pixmap().height();
+    for (int y = pixels.top() / patches * patches; y <= pixels.bottom(); y += patches) {
+        const QRect row = QRect(pixels.left(), y, pixels.width(), patches) & pixels;
+        painter.drawPixmap(row.topLeft(), paper_.pixmap(), row.translated(0, -y));
     }
 }
 
 void BreakGround::draw(QPainter& painter, const QSize& size, const QRect& exposed, double opacity) {
     const double pixelsPerPoint =
         painter.deviceTransform().m11(); // of what is really drawn on, a picture too
-    prepare(size, pixelsPerPoint);
-    const bool isSolid = opacity >= 1 || (!look_.blends && behind_.isNull());
+    const QSize all = size * pixelsPerPoint;
+    const bool isSolid = opacity >= 1 || (!look_.blends && !backdrop_);
+    const bool isUnseen = !isSolid && opacity < faintest;
+    prepare(size, pixelsPerPoint, isUnseen ? all.height() / stepsWhileUnseen + 1 : all.height());
+    const QRectF place(QPointF(exposed.topLeft()) * pixelsPerPoint, QSizeF(exposed.size()) * pixelsPerPoint);
+    const QRect pixels = place.toAlignedRect() & QRect(QPoint(), all);
     painter.save();
-    if (!isSolid && !behind_.isNull()) {
-        copy(painter, exposed, behind_, pixelsPerPoint);
+    painter.scale(1 / pixelsPerPoint, 1 / pixelsPerPoint);
+    if (!isSolid && !look_.blends) {
+        painter.drawPixmap(pixels.topLeft(), behind_.pixmap(), pixels);
     }
-    painter.setOpacity(isSolid ? 1 : opacity);
-    copy(painter, exposed, whole_, pixelsPerPoint);
+    if (!isUnseen) {
+        painter.setOpacity(isSolid ? 1 : opacity);
+        copy(painter, pixels);
+    }
     painter.restore();
 }
 

@@ -34,6 +34,7 @@ constexpr double tagBelowPet = 0.035; ///< of the pet's size: the tag hangs from
 constexpr double shelf = 36;          ///< the confetti's floor is above its area's foot by this
 
 constexpr double capsulePadding = 14;
+constexpr int wordsReach = 10; ///< by which rising words are off their place at most
 
 struct TitleSize {
     TypeToken token;
@@ -262,6 +263,10 @@ private:
 };
 
 } // namespace
+
+QRect WordBlock::reach() const {
+    return place.toAlignedRect().adjusted(-wordsReach, -wordsReach, wordsReach, wordsReach);
+}
 
 TextStyle footerStyle(bool isHint) {
     return {.token = TypeToken::body,

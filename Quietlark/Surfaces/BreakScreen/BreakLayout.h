@@ -25,6 +25,9 @@ struct WordBlock {
     QString text;
     TextStyle style;
     int order = 0;
+
+    /// All that they touch, wherever they are on their way.
+    QRect reach() const;
 };
 
 /// Where everything is. The pet stays where it is from scene to scene, unless the words leave it no room.

@@ -18,7 +18,7 @@ namespace quietlark {
 
 /// Puts the break screen up on the screens that the person wants it on, follows the screens while it is up, and takes
 /// the keys. It decides nothing about breaks: what is pressed goes to the model.
-class BreakOverlayController final : public BreakOverlay {
+class BreakOverlayController final : public BreakScreenPresenting {
 public:
     /// `lock` may be missing: the lock button then does nothing.
     explicit BreakOverlayController(const SurfaceContext& context, ScreenLock* lock = nullptr);

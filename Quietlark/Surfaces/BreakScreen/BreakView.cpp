@@ -25,21 +25,6 @@ void placeLanding(Landing& thing, const QRectF& place) {
     thing.setGeometry(around);
 }
 
-/// Always dark, whatever the rest of the program is.
-BreakGround::Look groundLook(const SurfaceContext& context) {
-    Appearance appearance = context.appearance.value();
-    appearance.dark = true;
-    return {.style = context.model.state().settings.value().breakScreenStyle,
-            .appearance = appearance,
-            .blends = context.host.blends()};
-}
-
-/// Of what the screen shows before the view covers it.
-std::optional<QImage> backdrop(const BreakView::Setup& setup) {
-    const bool isNeeded = BreakGround::needsBackdrop(groundLook(setup.context));
-    return isNeeded ? setup.context.host.backdrop(setup.screen) : std::nullopt;
-}
-
 /// The same but for what the clock changes.
 bool differOnlyInTime(BreakContent a, const BreakContent& b) {
     const bool sameThings =
@@ -52,13 +37,14 @@ bool differOnlyInTime(BreakContent a, const BreakContent& b) {
 } // namespace
 
 BreakView::BreakView(Setup setup)
-    : setup_(std::move(setup)), ground_(backdrop(setup_)),
+    : setup_(std::move(setup)), ground_(backdrop()),
       pet_(new BreakPet(setup_.context.model.state().today.value(),
                         {.now = [&loop = setup_.context.loop] { return loop.uptime(); },
                          .start = setup_.stage->petClockStart},
                         this)),
-      ring_(new CountdownRing(setup_.context.loop, this)), dots_(new RevealDots(this)),
-      tag_(new StickerTag(this)), chip_(new StreakChip(StreakChip::Size::large, this)),
+      ring_(new CountdownRing(setup_.context.loop, setup_.screen.refreshRate, this)),
+      dots_(new RevealDots(this)), tag_(new StickerTag(this)),
+      chip_(new StreakChip(StreakChip::Size::large, this)),
       lockButton_(new StickerButton(QStringLiteral("Lock screen"), StickerButton::Kind::quiet, this)),
       controls_(*this, [this](BreakControl control) { press(control); }),
       frames_(setup_.context.loop, [this](double) { frame(); }) {
@@ -117,12 +103,25 @@ void BreakView::followModel() {
     followed_.push_back(observe(setup_.context.appearance, [this] { refreshAppearance(); }));
 }
 
+/// Always dark, whatever the rest of the program is.
+BreakGround::Look BreakView::look() const {
+    Appearance appearance = setup_.context.appearance.value();
+    appearance.dark = true;
+    return {.style = setup_.context.model.state().settings.value().breakScreenStyle,
+            .appearance = appearance,
+            .blends = setup_.context.host.blends()};
+}
+
+/// To fetch it takes longer than all the rest.
+std::optional<QImage> BreakView::backdrop() const {
+    return BreakGround::wantsBackdrop(look()) ? setup_.context.host.backdrop(setup_.screen) : std::nullopt;
+}
+
 void BreakView::refreshAppearance() {
-    const BreakGround::Look look = groundLook(setup_.context);
-    appearance_ = look.appearance;
+    appearance_ = look().appearance;
     setAppearance(*this, appearance_);
     pet_->setAppearance(appearance_);
-    ground_.setLook(look);
+    ground_.setLook(look());
     if (content_.scene != BreakScene::empty) {
         layOut(true);
     }

@@ -60,6 +60,8 @@ private:
     void arrangeKeys();
     void followModel();
     void refresh();
+    BreakGround::Look look() const;
+    std::optional<QImage> backdrop() const;
     void refreshAppearance();
     void showNext(BreakContent next);
     void showTimes(const BreakContent& next);

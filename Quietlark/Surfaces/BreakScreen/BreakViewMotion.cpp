@@ -1,6 +1,6 @@
 #include "Quietlark/Surfaces/BreakScreen/BreakKeys.h"
 #include "Quietlark/Surfaces/BreakScreen/BreakView.h"
-#include "Quietlark/Surfaces/BreakScreen/Fading.h"
+#include "Quietlark/Surfaces/Fading.h"
 #include "WumbleCore/Motion/MotionTokens.h"
 
 #include <algorithm>
@@ -13,11 +13,6 @@ namespace {
 namespace Motion = wumble::Motion;
 
 constexpr double petGlide = 0.6; ///< seconds until it has come to rest elsewhere
-constexpr int wordsReach = 10;   ///< points by which rising words are off their place at most
-
-QRect around(const QRectF& place) {
-    return place.toAlignedRect().adjusted(-wordsReach, -wordsReach, wordsReach, wordsReach);
-}
 
 } // namespace
 
@@ -40,7 +35,7 @@ wumble::Date BreakView::restsFrom() const {
     const BreakTimes times = screenTimes();
     wumble::Date until =
         std::max({movingUntil(part::Ground{}, times, reduces), movingUntil(part::Wumble{}, times, reduces),
-                  wordsMovingUntil(wordTimes()), controls_.movingUntil(), ring_->movingUntil()});
+                  wordsMovingUntil(wordTimes()), controls_.movingUntil()});
     if (footerAt_) {
         until = std::max(until, *footerAt_ + Motion::fade.duration);
     }
@@ -146,13 +141,13 @@ void BreakView::updateMoving(wumble::Date now) {
         return update();
     }
     for (const WordBlock& block : layout_.words) {
-        update(around(block.place));
+        update(block.reach());
     }
     for (const WordBlock& block : formerWords_) {
-        update(around(block.place));
+        update(block.reach());
     }
-    update(around(layout_.footer.place));
-    update(around(layout_.clock.place));
+    update(layout_.footer.reach());
+    update(layout_.clock.reach());
     if (setup_.isPrimary && setup_.stage->reveal.value()) {
         const bool big = setup_.stage->reveal.value()->milestone;
         update(ConfettiBurst::reach(big, layout_.confetti).toAlignedRect());

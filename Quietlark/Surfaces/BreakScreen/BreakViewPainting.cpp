@@ -11,9 +11,10 @@ namespace {
 
 constexpr double smallestHint = 0.9;
 
-void drawBlock(QPainter& painter, const WordBlock& block, const EntrancePose& pose,
+/// Where something moves beside the words they aren't set anew.
+void drawBlock(QPainter& painter, const QRegion& exposed, const WordBlock& block, const EntrancePose& pose,
                const Appearance& appearance) {
-    if (pose.opacity <= 0 || block.text.isEmpty()) {
+    if (pose.opacity <= 0 || block.text.isEmpty() || !exposed.intersects(block.reach())) {
         return;
     }
     painter.setOpacity(pose.opacity);
@@ -33,14 +34,16 @@ void BreakView::paintEvent(QPaintEvent* event) {
         confetti->draw(painter, layout_.confetti, now, appearance_);
     }
     for (const WordBlock& block : formerWords_) {
-        drawBlock(painter, block, {.opacity = formerWords(times, now)}, appearance_);
+        drawBlock(painter, event->region(), block, {.opacity = formerWords(times, now)}, appearance_);
     }
     for (const WordBlock& block : layout_.words) {
-        drawBlock(painter, block, wordPose(times, block.order, now), appearance_);
+        drawBlock(painter, event->region(), block, wordPose(times, block.order, now), appearance_);
     }
-    drawFooter(painter, now);
+    if (event->region().intersects(layout_.footer.reach())) {
+        drawFooter(painter, now);
+    }
     const EntrancePose bar = entrancePose(part::Words{order::footer}, times.screen, now, times.reduceMotion);
-    drawBlock(painter, layout_.clock, bar, appearance_);
+    drawBlock(painter, event->region(), layout_.clock, bar, appearance_);
 }
 
 void BreakView::drawFooter(QPainter& painter, wumble::Date now) const {

@@ -18,8 +18,8 @@ constexpr double trackWidth = 6;
 constexpr double trackInset = 12; ///< from the edge of the disc to the middle of the track
 constexpr double outline = 1.5;
 constexpr double contrastOutline = 2.5;
-constexpr double smallStep = 0.02;     ///< of the whole ring
-constexpr std::size_t widestLarge = 5; ///< letters: "12:34"
+constexpr double smallStep = 1.0 / 300; ///< of the whole ring: a point along it
+constexpr std::size_t widestLarge = 5;  ///< letters: "12:34"
 
 constexpr wumble::Motion::Curve easing{.duration = 0.25, .x1 = 0.25, .y1 = 0.1, .x2 = 0.25, .y2 = 1};
 
@@ -47,7 +47,13 @@ void drawRing(QPainter& painter, const QRectF& place, double progress, const std
 
 } // namespace
 
-CountdownRing::CountdownRing(const MainLoop& loop, QWidget* parent) : QWidget(parent), loop_(loop) {
+CountdownRing::CountdownRing(const MainLoop& loop, double refreshRate, QWidget* parent)
+    : QWidget(parent), loop_(loop), refreshRate_(refreshRate), frames_(loop, [this](double) {
+          update();
+          if (loop_.now() >= movingUntil()) {
+              frames_.stop();
+          }
+      }) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAccessibleName(QStringLiteral("Time left"));
 }
@@ -70,6 +76,9 @@ void CountdownRing::setValue(const RingValue& value) {
     value_ = value;
     setAccessibleDescription(QString::fromStdString(value.label));
     update();
+    if (jumps && !appearanceOf(*this).reduceMotion) {
+        frames_.start(refreshRate_);
+    }
 }
 
 double CountdownRing::shownProgress(wumble::Date now) const {

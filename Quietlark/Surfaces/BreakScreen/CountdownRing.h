@@ -2,6 +2,7 @@
 
 #include "Quietlark/MainLoop.h"
 #include "Quietlark/Surfaces/BreakScreen/BreakContent.h"
+#include "Quietlark/Surfaces/FrameTicker.h"
 
 #include <QWidget>
 
@@ -10,9 +11,10 @@ namespace quietlark {
 /// How much of the break has run, as a ring that fills, with the time that is left in its middle.
 class CountdownRing : public QWidget {
 public:
-    explicit CountdownRing(const MainLoop& loop, QWidget* parent = nullptr);
+    /// `refreshRate`: of its screen, frames a second.
+    CountdownRing(const MainLoop& loop, double refreshRate, QWidget* parent = nullptr);
 
-    /// A small step is taken at once, a jump on a short way of its own.
+    /// Taken on a short way of its own, or at once where the step is too small to be seen.
     void setValue(const RingValue& value);
     const RingValue& value() const { return value_; }
 
@@ -29,9 +31,11 @@ protected:
 
 private:
     const MainLoop& loop_;
+    double refreshRate_;
     RingValue value_;
     double from_ = 0;
     wumble::Date changedAt_ = wumble::earliestWrittenDate;
+    FrameTicker frames_;
 };
 
 } // namespace quietlark

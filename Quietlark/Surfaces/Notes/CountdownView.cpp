@@ -157,9 +157,10 @@ void CountdownView::paintEvent(QPaintEvent* event) {
     };
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour(Role::line, appearance), outline));
+    const double line = outlineWidth(outline, appearance);
+    painter.setPen(QPen(colour(Role::line, appearance), line));
     painter.setBrush(between(fill(before_), fill(words_), share));
-    const QRectF pill = QRectF(0, 0, width_, height).adjusted(1, 1, -1, -1);
+    const QRectF pill = QRectF(0, 0, width_, height).adjusted(line / 2, line / 2, -line / 2, -line / 2);
     painter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
     if (isLeftOf(wordsLeft, *event)) {
         return;

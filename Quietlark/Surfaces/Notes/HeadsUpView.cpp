@@ -1,6 +1,7 @@
 #include "Quietlark/Surfaces/Notes/HeadsUpView.h"
 
 #include "Quietlark/Model/StatusLine.h"
+#include "Quietlark/Surfaces/Fading.h"
 #include "Quietlark/Surfaces/Notes/PointerHover.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Controls/StickerButton.h"
@@ -88,10 +89,8 @@ void HeadsUpView::refresh() {
     if (followed_.presence->value().left || followed_.answer->value().toast) {
         return;
     }
-    const auto& hold = state_.hold.value();
-    const bool waitsForHands = hold && std::holds_alternative<wumble::hold::Typing>(*hold);
     pet_.view().setDay(state_.today.value());
-    pet_.view().setMood(waitsForHands ? typingAlongMood(state_) : wumble::WumbleMood::peek);
+    pet_.view().setMood(isHeldByTyping(state_) ? typingAlongMood(state_) : wumble::WumbleMood::peek);
     Content fresh = content();
     if (fresh == content_) {
         return;
@@ -177,7 +176,7 @@ double HeadsUpView::morphed() const {
 void HeadsUpView::morph() {
     const double left = std::max(1 - 2 * morphed(), 0.0);
     for (StickerButton* button : buttons_) {
-        button->setOpacity(left);
+        setFading(*button, left);
         button->setVisible(left > 0);
     }
     const double elapsed = loop_.now() - followed_.answer->value().since;

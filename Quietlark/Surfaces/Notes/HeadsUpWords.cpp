@@ -17,11 +17,6 @@ constexpr double shortSnooze = 60; ///< seconds
 constexpr double longSnooze = 300;
 constexpr double longestPauseWait = 900;
 
-bool holdsForTyping(const AppState& state) {
-    const auto& hold = state.hold.value();
-    return hold && std::holds_alternative<wumble::hold::Typing>(*hold);
-}
-
 std::string kindIn(const AppState& state) {
     return std::string(wumble::title(state.upcomingKind.value())) + " in";
 }
@@ -74,12 +69,12 @@ Button waitButton() {
 } // namespace
 
 std::string headline(const AppState& state) {
-    return holdsForTyping(state) ? "Finish your thought…"
+    return isHeldByTyping(state) ? "Finish your thought…"
                                  : kindIn(state) + " " + Format::clock(state.secondsUntilBreak.value());
 }
 
 std::vector<std::string> statusLines(const AppState& state) {
-    if (holdsForTyping(state)) {
+    if (isHeldByTyping(state)) {
         return {state.dragging.value() ? "The break starts when you let go"
                                        : "The break starts when you pause"};
     }
@@ -131,7 +126,7 @@ std::vector<Button> buttons(const Choices& choices) {
 }
 
 Pill pill(const AppState& state, bool typedAlong) {
-    const bool waits = typedAlong && holdsForTyping(state) && state.secondsUntilBreak.value() <= 0;
+    const bool waits = typedAlong && isHeldByTyping(state) && state.secondsUntilBreak.value() <= 0;
     if (waits) {
         return {.waitsForTyping = true,
                 .first = "Break waits",
@@ -143,7 +138,7 @@ Pill pill(const AppState& state, bool typedAlong) {
 wumble::Counter secondsLeft(const AppState& state) {
     const double untilBreak = state.secondsUntilBreak.value();
     const double left =
-        holdsForTyping(state) && untilBreak <= 0 ? typingHoldLeft(state).value_or(0) : untilBreak;
+        isHeldByTyping(state) && untilBreak <= 0 ? typingHoldLeft(state).value_or(0) : untilBreak;
     return static_cast<wumble::Counter>(std::ceil(std::max(left, 0.0)));
 }
 

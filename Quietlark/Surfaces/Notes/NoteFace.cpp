@@ -55,17 +55,18 @@ void drawNoteCard(QPainter& painter, const QRectF& rect, Surface tile, double ti
     if (tileWidth <= 0) {
         return;
     }
-    const QRectF inside = rect.adjusted(outline, outline, -outline, -outline);
+    const double line = outlineWidth(outline, appearance);
+    const QRectF inside = rect.adjusted(line, line, -line, -line);
     const QRectF left(inside.topLeft(), QSizeF(tileWidth, inside.height()));
     QPainterPath card;
-    card.addRoundedRect(inside, Radius::card - outline, Radius::card - outline);
+    card.addRoundedRect(inside, Radius::card - line, Radius::card - line);
     painter.save();
     painter.setClipPath(card);
     painter.fillRect(left, colour(tile, appearance));
     QColor dots = colour(Role::line, appearance);
     dots.setAlphaF(0.1F);
     drawDotGrid(painter, left, dotSpacing, dots);
-    painter.fillRect(QRectF(left.topRight(), QSizeF(outline, left.height())), colour(Role::line, appearance));
+    painter.fillRect(QRectF(left.topRight(), QSizeF(line, left.height())), colour(Role::line, appearance));
     painter.restore();
 }
 

@@ -14,8 +14,6 @@ public:
     /// Lives as long as the widget.
     PointerHover(QWidget& widget, std::function<void(bool inside)> changed);
 
-    bool isInside() const { return inside_; }
-
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

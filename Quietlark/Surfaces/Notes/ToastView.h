@@ -35,7 +35,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    QRectF wordsPlace() const;
     void addCloseControl();
 
     wumble::Toast toast_;

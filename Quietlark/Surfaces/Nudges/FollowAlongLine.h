@@ -22,6 +22,8 @@ public:
 
     explicit FollowAlongLine(const wumble::Toast::FollowAlong& followAlong);
 
+    const std::vector<Cue>& cues() const { return cues_; } ///< in order of time; never empty
+
     /// The cue that stands at that time; nullptr before the first.
     const Cue* at(double elapsed) const;
 

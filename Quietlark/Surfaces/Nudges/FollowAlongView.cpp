@@ -17,6 +17,7 @@ namespace {
 
 constexpr double gap = 8;
 constexpr int mostTitleLines = 4;
+constexpr double unlimited = 10000; ///< points: as wide as the words want
 
 constexpr double dot = 8; ///< points across
 constexpr double dotGap = 5;
@@ -32,7 +33,6 @@ const TextStyle titleStyle{.token = TypeToken::title, .mostLines = mostTitleLine
 const TextStyle lineStyle{.token = TypeToken::body, .alignment = Qt::AlignLeft | Qt::AlignVCenter};
 
 double rowHeight(const Appearance& appearance) {
-    constexpr double unlimited = 10000;
     return std::max(measureText(QStringLiteral("Wg"), lineStyle, unlimited, appearance).height(), checkSize);
 }
 
@@ -46,7 +46,8 @@ double titleHeight(const QString& title, double width, const Appearance& appeara
 
 void FollowAlongView::draw(QPainter& painter, const QRectF& place, const Appearance& appearance) const {
     const Appearance fits = withFittingText(appearance, [&](const Appearance& tried) {
-        return titleHeight(title, place.width(), tried) + gap + rowHeight(tried) <= place.height();
+        return titleHeight(title, place.width(), tried) + gap + rowHeight(tried) <= place.height() &&
+               widestCue(tried) <= place.width();
     });
     const double row = rowHeight(fits);
     const double most = place.height() - gap - row;
@@ -54,6 +55,25 @@ void FollowAlongView::draw(QPainter& painter, const QRectF& place, const Appeara
     const double top = place.top() + (place.height() - high - gap - row) / 2;
     drawText(painter, QRectF(place.left(), top, place.width(), high), title, titleStyle, fits);
     drawLine(painter, QRectF(place.left(), top + high + gap, place.width(), row), fits);
+}
+
+/// All that is said along the way has one size.
+double FollowAlongView::widestCue(const Appearance& appearance) const {
+    if (follow == nullptr) {
+        return 0;
+    }
+    double widest = 0;
+    for (const auto& cue : follow->cues()) {
+        const double before = cue.isDone ? checkSize + checkGap : roundsWidth();
+        const QString text = QString::fromStdString(cue.text);
+        widest = std::max(widest, before + measureText(text, lineStyle, unlimited, appearance).width());
+    }
+    return widest;
+}
+
+double FollowAlongView::roundsWidth() const {
+    const int rounds = follow->rounds();
+    return rounds > mostDots ? 0 : rounds * (dot + dotGap) + gap - dotGap;
 }
 
 void FollowAlongView::drawLine(QPainter& painter, const QRectF& row, const Appearance& appearance) const {
@@ -66,7 +86,8 @@ void FollowAlongView::drawLine(QPainter& painter, const QRectF& row, const Appea
         drawCue(painter, row, *cue, 1, appearance);
         return;
     }
-    const QRectF words = row.adjusted(drawRounds(painter, row, appearance), 0, 0, 0);
+    drawRounds(painter, row, appearance);
+    const QRectF words = row.adjusted(roundsWidth(), 0, 0, 0);
     if (cue == nullptr) {
         return;
     }
@@ -103,11 +124,11 @@ void FollowAlongView::drawCue(QPainter& painter, const QRectF& row, const Follow
     painter.restore();
 }
 
-/// One dot a round, filled once it is done. Gives how much of the row they take.
-double FollowAlongView::drawRounds(QPainter& painter, const QRectF& row, const Appearance& appearance) const {
+/// One dot a round, filled once it is done.
+void FollowAlongView::drawRounds(QPainter& painter, const QRectF& row, const Appearance& appearance) const {
     const int rounds = follow->rounds();
     if (rounds > mostDots) {
-        return 0;
+        return;
     }
     const int done = follow->roundsDone(elapsed);
     painter.save();
@@ -119,7 +140,6 @@ double FollowAlongView::drawRounds(QPainter& painter, const QRectF& row, const A
         painter.drawEllipse(center, reach, reach);
     }
     painter.restore();
-    return rounds * (dot + dotGap) + gap - dotGap;
 }
 
 double FollowAlongView::popped(double since) const {

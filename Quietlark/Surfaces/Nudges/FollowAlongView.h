@@ -25,7 +25,9 @@ private:
     void drawLine(QPainter& painter, const QRectF& row, const Appearance& appearance) const;
     void drawCue(QPainter& painter, const QRectF& row, const FollowAlongLine::Cue& cue, double presence,
                  const Appearance& appearance) const;
-    double drawRounds(QPainter& painter, const QRectF& row, const Appearance& appearance) const;
+    void drawRounds(QPainter& painter, const QRectF& row, const Appearance& appearance) const;
+    double roundsWidth() const;
+    double widestCue(const Appearance& appearance) const;
     double popped(double since) const;
 };
 

@@ -40,8 +40,8 @@ template <class Exercise> bool isExercise(const wumble::Toast& toast) {
 }
 
 /// Up to the middle of the outline: what fills it doesn't show outside.
-QPainterPath cardShape() {
-    constexpr double inside = outline / 2;
+QPainterPath cardShape(double line) {
+    const double inside = line / 2;
     QPainterPath path;
     path.addRoundedRect(QRectF({}, NudgeGeometry::cardSize).adjusted(inside, inside, -inside, -inside),
                         Radius::card - inside, Radius::card - inside);
@@ -148,7 +148,8 @@ void ReminderView::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(scale_, scale_);
     const QRectF card({}, NudgeGeometry::cardSize);
-    painter.setClipPath(cardShape());
+    const double line = outlineWidth(outline, appearance);
+    painter.setClipPath(cardShape(line));
     painter.fillRect(card, colour(Surface::card, appearance));
     if (isExercise<wumble::Toast::Breaths>(toast_)) {
         const double phase = appearance.reduceMotion ? 0 : elapsed() / waveEvery;
@@ -164,9 +165,9 @@ void ReminderView::paintEvent(QPaintEvent*) {
     if (close_ != nullptr && close_->isVisible()) {
         drawSticker(painter, closePlace, {.radius = closePlace.width() / 2, .lift = Lift::flat}, appearance);
     }
-    painter.setPen(QPen(colour(Role::line, appearance), outline));
+    painter.setPen(QPen(colour(Role::line, appearance), line));
     painter.setBrush(Qt::NoBrush);
-    painter.drawPath(cardShape());
+    painter.drawPath(cardShape(line));
 }
 
 void ReminderView::drawPet(QPainter& painter, const Appearance& appearance) {

@@ -1,6 +1,7 @@
 #include "Quietlark/Surfaces/Tray/ActionsArea.h"
 
 #include "Quietlark/Surfaces/Tray/MenuRow.h"
+#include "Quietlark/Surfaces/Tray/ReadingOrder.h"
 #include "Quietlark/Surfaces/Tray/Refill.h"
 #include "Quietlark/Surfaces/Tray/TrayActions.h"
 #include "Quietlark/Surfaces/Tray/Well.h"
@@ -76,6 +77,7 @@ void ActionsArea::setRows(const std::vector<ActionRow>& rows) {
 }
 
 void ActionsArea::build() {
+    const bool hadKeyboard = holdsKeyboard(*this);
     empty(*column_);
     buttons_.clear();
     folds_.clear();
@@ -103,6 +105,9 @@ void ActionsArea::build() {
     }
     showNow(*column_);
     setVisible(!rows_.empty());
+    if (const auto controls = inReadingOrder(*this); hadKeyboard && !controls.isEmpty()) {
+        controls.front()->setFocus(Qt::TabFocusReason);
+    }
 }
 
 QWidget* ActionsArea::button(const ActionRow& row) {

@@ -121,7 +121,6 @@ void MenuRow::paintEvent(QPaintEvent*) {
     const Places at = places(look);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setOpacity(opacity());
     drawQuietFace(painter, face(), Radius::control, offset(), look);
     const QColor ink = colour(isEnabled() ? Role::text : Role::textMuted, look);
     if (symbol_) {

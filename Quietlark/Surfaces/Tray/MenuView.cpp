@@ -5,9 +5,11 @@
 #include "Quietlark/Surfaces/TextBlock.h"
 #include "Quietlark/Surfaces/Tray/ActionsArea.h"
 #include "Quietlark/Surfaces/Tray/MetaArea.h"
+#include "Quietlark/Surfaces/Tray/ReadingOrder.h"
 #include "Quietlark/Surfaces/Tray/SlotRow.h"
 #include "Quietlark/Surfaces/Tray/StatusCard.h"
 #include "Quietlark/Theme/AppearanceScope.h"
+#include "Quietlark/Theme/Controls/PaperScroll.h"
 #include "Quietlark/Theme/Controls/PressControl.h"
 #include "Quietlark/Theme/Controls/RevealDots.h"
 #include "Quietlark/Theme/Sticker.h"
@@ -17,8 +19,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -72,13 +72,9 @@ protected:
 } // namespace
 
 MenuView::MenuView(const SurfaceContext& context, const TrayDoors& doors)
-    : context_(context), scroll_(new QScrollArea(this)), page_(new QWidget) {
+    : context_(context), scroll_(new PaperScroll(this)), page_(new QWidget) {
     setObjectName(QStringLiteral("popover"));
     setAccessibleName(QStringLiteral("Quietlark"));
-    scroll_->setFrameShape(QFrame::NoFrame);
-    scroll_->setWidgetResizable(true);
-    scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll_->setFocusPolicy(Qt::NoFocus);
     auto* column = new QVBoxLayout(page_);
     column->setContentsMargins(padding, padding, padding, padding);
     column->setSpacing(groupGap);
@@ -132,6 +128,7 @@ void MenuView::refresh() {
     slot_->setSlot(TrayWords::slotOf(model.state()));
     actions_->setRows(TrayWords::actions(model.state(), model.engine()));
     meta_->refresh();
+    tabInOrder(inReadingOrder(*page_));
     settle();
 }
 
@@ -166,6 +163,7 @@ void MenuView::waitAgain() {
 void MenuView::settle() {
     invalidateLayouts(*page_);
     page_->layout()->activate();
+    scroll_->fitBar();
     if (const QSize hint = sizeHint(); hint != lastHint_) {
         lastHint_ = hint;
         wantsOtherSize();
@@ -193,8 +191,10 @@ QRegion MenuView::outline(QSizeF size) {
 }
 
 void MenuView::takeKeyboard() {
-    page_->setFocus(Qt::TabFocusReason);
-    focusNextPrevChild(true);
+    // The pet above them can wait.
+    if (const auto controls = inReadingOrder(*page_); controls.size() > 1) {
+        controls[1]->setFocus(Qt::TabFocusReason);
+    }
 }
 
 void MenuView::keyPressEvent(QKeyEvent* event) {

@@ -9,13 +9,13 @@
 #include <functional>
 #include <memory>
 
-class QScrollArea;
 class QVBoxLayout;
 
 namespace quietlark {
 
 class ActionsArea;
 class MetaArea;
+class PaperScroll;
 class RevealDots;
 class SlotRow;
 class StatusCard;
@@ -56,7 +56,7 @@ private:
     int pageWidth() const;
 
     SurfaceContext context_;
-    QScrollArea* scroll_;
+    PaperScroll* scroll_;
     QWidget* page_;
     WumbleView* pet_ = nullptr;
     TextBlock* petTitle_ = nullptr;

@@ -29,4 +29,10 @@ inline void showNow(const QLayout& layout) {
     }
 }
 
+/// Whether the keys go to something in there: what takes its place has to take them over.
+inline bool holdsKeyboard(const QWidget& widget) {
+    const QWidget* focused = widget.window()->focusWidget();
+    return focused != nullptr && widget.isAncestorOf(focused);
+}
+
 } // namespace quietlark

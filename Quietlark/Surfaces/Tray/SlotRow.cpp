@@ -1,6 +1,7 @@
 #include "Quietlark/Surfaces/Tray/SlotRow.h"
 
 #include "Quietlark/Surfaces/TextBlock.h"
+#include "Quietlark/Surfaces/Tray/ReadingOrder.h"
 #include "Quietlark/Surfaces/Tray/Refill.h"
 #include "Quietlark/Theme/Controls/StickerButton.h"
 #include "Quietlark/Theme/Text.h"
@@ -31,6 +32,7 @@ void SlotRow::say(std::optional<QString> words) {
 }
 
 void SlotRow::build() {
+    const bool hadKeyboard = holdsKeyboard(*this);
     empty(*layout());
     if (said_) {
         addWords(*said_);
@@ -39,6 +41,18 @@ void SlotRow::build() {
     }
     showNow(*layout());
     setVisible(said_ || !std::holds_alternative<TrayWords::slot::None>(slot_));
+    if (hadKeyboard) {
+        takeKeyboard();
+    }
+}
+
+void SlotRow::takeKeyboard() {
+    const auto controls = inReadingOrder(*this);
+    if (controls.isEmpty()) {
+        focusNextPrevChild(true);
+    } else {
+        controls.front()->setFocus(Qt::TabFocusReason);
+    }
 }
 
 void SlotRow::add(const TrayWords::slot::DontWait& offer) {

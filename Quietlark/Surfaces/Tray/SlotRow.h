@@ -25,6 +25,7 @@ public:
 
 private:
     void build();
+    void takeKeyboard();
     void add(const TrayWords::slot::None&) {}
     void add(const TrayWords::slot::DontWait& offer);
     void add(const TrayWords::slot::NotWaiting& controls);

@@ -1,5 +1,6 @@
 #include "Quietlark/Surfaces/Tray/StatusCard.h"
 
+#include "Quietlark/Surfaces/SpokenText.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Controls/PressControl.h"
 #include "Quietlark/Theme/Sticker.h"
@@ -88,6 +89,7 @@ StatusCard::StatusCard(QWidget* parent) : QWidget(parent) {
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+    readAsText(*this);
 }
 
 void StatusCard::setStatus(const TrayWords::Status& status) {

@@ -115,7 +115,7 @@ void StatusItemController::toggle(std::optional<QPointF> told) {
 std::optional<PopoverPlace::Anchor> StatusItemController::place(std::optional<QPointF> told) const {
     const SurfaceHost& host = context_.host;
     if (tray_.isShown()) {
-        if (const auto clicked = PopoverPlace::anchor(told, host.pointer(), host.screens())) {
+        if (const auto clicked = PopoverPlace::anchor(told, host.pointerNow(), host.screens())) {
             return clicked;
         }
     }

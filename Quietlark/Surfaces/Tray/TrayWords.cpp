@@ -37,20 +37,13 @@ std::string noun(const wumble::SmartActivity& activity) {
 }
 
 const wumble::SmartActivity* activityHeldFor(const AppState& state) {
-    const auto& hold = state.hold.value();
-    const auto* smart = hold ? std::get_if<wumble::hold::Smart>(&*hold) : nullptr;
+    const auto* smart = holdOf<wumble::hold::Smart>(state);
     return smart != nullptr ? &smart->activity : nullptr;
-}
-
-bool isHeldByTyping(const AppState& state) {
-    const auto& hold = state.hold.value();
-    return hold && std::holds_alternative<wumble::hold::Typing>(*hold);
 }
 
 /// Seconds until a wait after an activity is over; absent without one.
 std::optional<double> cooldown(const AppState& state) {
-    const auto& hold = state.hold.value();
-    const auto* cooling = hold ? std::get_if<wumble::hold::Cooldown>(&*hold) : nullptr;
+    const auto* cooling = holdOf<wumble::hold::Cooldown>(state);
     return cooling != nullptr ? std::optional(std::max(cooling->until - state.now.value(), 0.0))
                               : std::nullopt;
 }
@@ -85,8 +78,9 @@ Status pausedStatus(const wumble::pause::Manual& manual, const AppState& state,
 
 std::string holdLine(const AppState& state, const wumble::BreakEngine& engine) {
     if (isHeldByTyping(state)) {
-        return state.dragging.value() ? "The break starts when you let go"
-                                      : "The break starts when you pause";
+        return state.dragging.value()
+                   ? "The break starts when you let go"
+                   : "The break starts when you pause " + std::string(typingHoldVerb(state));
     }
     if (const auto& after = state.breatherAfter.value()) {
         const char* what = engine.waitingForPause() ? " · the break will wait" : " · a short breather first";
@@ -142,7 +136,7 @@ Status pausedStatus(const wumble::PauseReason& reason, const AppState& state,
         [&](const wumble::pause::OffHours&) {
             const wumble::Date now = state.now.value();
             const auto next = state.settings.value().nextOfficeHoursStart(now, calendar);
-            return Status{.words = "Off hours · back", .detail = ModelWords::backLine(next, now, calendar)};
+            return Status{.words = "Off hours · back " + ModelWords::backLine(next, now, calendar)};
         },
         [&](const wumble::pause::Away&) { return workingStatus(state, engine); });
 }

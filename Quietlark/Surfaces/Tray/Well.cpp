@@ -1,11 +1,10 @@
 #include "Quietlark/Surfaces/Tray/Well.h"
 
-#include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Controls/PressControl.h"
-#include "Quietlark/Theme/Sticker.h"
+#include "Quietlark/Theme/Role.h"
+#include "Quietlark/Theme/Sizes.h"
 
 #include <QPainter>
-#include <QVBoxLayout>
 
 namespace quietlark {
 
@@ -15,22 +14,16 @@ constexpr int margin = PressControl::margin;
 constexpr int air = 4;
 constexpr double outline = 1.5;
 
+void drawWell(QPainter& painter, const QRectF& place, const Appearance& appearance) {
+    constexpr double half = outline / 2;
+    painter.setPen(QPen(colour(Role::rule, appearance), outline));
+    painter.setBrush(colour(Surface::card, appearance));
+    painter.drawRoundedRect(place.adjusted(margin + half, 2 + half, -margin - half, -margin - half),
+                            Radius::control, Radius::control);
+}
+
 } // namespace
 
-Well::Well(QWidget* parent) : QWidget(parent), column_(new QVBoxLayout(this)) {
-    column_->setContentsMargins(0, 2 + air, 0, margin + air);
-    column_->setSpacing(0);
-}
-
-void Well::paintEvent(QPaintEvent*) {
-    const Appearance look = appearanceOf(*this);
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour(Role::rule, look), outline));
-    painter.setBrush(colour(Surface::card, look));
-    const QRectF place = QRectF(rect()).adjusted(margin, 2, -margin, -margin);
-    const double half = outline / 2;
-    painter.drawRoundedRect(place.adjusted(half, half, -half, -half), Radius::control, Radius::control);
-}
+Well::Well() : PaintedColumn(drawWell, {0, 2 + air, 0, margin + air}, 0) {}
 
 } // namespace quietlark

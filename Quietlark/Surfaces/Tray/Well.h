@@ -1,23 +1,13 @@
 #pragma once
 
-#include <QWidget>
-
-class QVBoxLayout;
+#include "Quietlark/Theme/Controls/PaintedColumn.h"
 
 namespace quietlark {
 
 /// A place set into the paper for rows that unfolded.
-class Well : public QWidget {
+class Well : public PaintedColumn {
 public:
-    explicit Well(QWidget* parent = nullptr);
-
-    QVBoxLayout* column() const { return column_; }
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    QVBoxLayout* column_;
+    Well();
 };
 
 } // namespace quietlark

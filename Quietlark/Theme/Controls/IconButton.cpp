@@ -28,11 +28,6 @@ void IconButton::setIconSize(double points) {
     update();
 }
 
-void IconButton::setInk(Role ink) {
-    ink_ = ink;
-    update();
-}
-
 QSize IconButton::sizeHint() const {
     const double side = iconSize_ * appearance().textScale + 2 * air;
     return withMargins({side, side});
@@ -43,11 +38,10 @@ void IconButton::paintEvent(QPaintEvent*) {
     const QRectF place = face();
     const double symbol = iconSize_ * look.textScale;
     QPainter painter(this);
-    painter.setOpacity(opacity());
     drawQuietFace(painter, place, Radius::small, offset(), look);
     QRectF symbolPlace(0, 0, symbol, symbol);
     symbolPlace.moveCenter(place.center());
-    drawSymbol(painter, symbolPlace, symbol_, colour(isEnabled() ? ink_ : Role::rule, look));
+    drawSymbol(painter, symbolPlace, symbol_, colour(isEnabled() ? Role::text : Role::rule, look));
     if (showsFocus()) {
         drawFocusRing(painter, place, Radius::small, look);
     }

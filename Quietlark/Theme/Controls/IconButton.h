@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Quietlark/Theme/Controls/PressControl.h"
-#include "Quietlark/Theme/Role.h"
 #include "Quietlark/Theme/Sizes.h"
 #include "Quietlark/Theme/Symbol.h"
 
@@ -15,9 +14,6 @@ public:
     void setSymbol(Symbol symbol);
     void setIconSize(double points);
 
-    /// Of the symbol; the text's colour without.
-    void setInk(Role ink);
-
     QSize sizeHint() const override;
 
 protected:
@@ -26,7 +22,6 @@ protected:
 private:
     Symbol symbol_;
     double iconSize_ = IconSize::large;
-    Role ink_ = Role::text;
 };
 
 } // namespace quietlark

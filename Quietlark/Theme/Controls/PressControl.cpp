@@ -6,7 +6,6 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 
-#include <algorithm>
 #include <cmath>
 
 namespace quietlark {
@@ -42,11 +41,6 @@ void PressControl::setText(const QString& text) {
     QAbstractButton::setText(text);
     setShortcut({});
     updateGeometry();
-}
-
-void PressControl::setOpacity(double opacity) {
-    opacity_ = std::clamp(opacity, 0.0, 1.0);
-    update();
 }
 
 Appearance PressControl::appearance() const { return appearanceOf(*this); }

@@ -20,9 +20,6 @@ public:
     /// Also the accessible name, unless that was given another. An ampersand is an ampersand.
     void setText(const QString& text);
 
-    /// From 0 (not seen) to 1.
-    void setOpacity(double opacity);
-
 protected:
     Appearance appearance() const;
     QRectF face() const { return contentsRect(); }
@@ -31,7 +28,6 @@ protected:
     /// How far the face is moved from its place to the right and down; above 0 while pressed.
     double offset() const;
     bool showsFocus() const { return hasFocus() && focusByKeyboard_; }
-    double opacity() const { return opacity_; }
 
     bool hitButton(const QPoint& position) const override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -47,7 +43,6 @@ private:
     QVariantAnimation way_;
     bool isOver_ = false;
     bool focusByKeyboard_ = false;
-    double opacity_ = 1;
 };
 
 } // namespace quietlark

@@ -80,6 +80,7 @@ void Segments::setChoices(const QStringList& choices) {
         auto* choice = new SegmentChoice(text, this);
         const int place = static_cast<int>(choices_.size());
         connect(choice, &QAbstractButton::toggled, this, [this, place](bool on) {
+            stopAtChosen();
             if (on && chosen) {
                 chosen(place);
             }
@@ -97,6 +98,12 @@ void Segments::setCurrent(int place) {
     auto report = std::exchange(chosen, nullptr);
     choices_[place]->setChecked(true);
     chosen = std::move(report);
+}
+
+void Segments::stopAtChosen() {
+    for (SegmentChoice* choice : choices_) {
+        choice->setFocusPolicy(choice->isChecked() || current() < 0 ? Qt::StrongFocus : Qt::ClickFocus);
+    }
 }
 
 int Segments::current() const {

@@ -26,6 +26,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void stopAtChosen();
+
     QList<class SegmentChoice*> choices_;
 };
 

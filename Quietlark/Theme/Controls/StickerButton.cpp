@@ -78,7 +78,6 @@ QSize StickerButton::minimumSizeHint() const {
 void StickerButton::paintEvent(QPaintEvent*) {
     const Appearance look = appearance();
     QPainter painter(this);
-    painter.setOpacity(opacity());
     const bool isQuiet = kind_ == Kind::quiet;
     const QRectF moved = isQuiet ? face() : face().translated(offset(), offset());
     drawFace(painter, moved, look);

@@ -50,7 +50,6 @@ void StickerSwitch::paintEvent(QPaintEvent*) {
     place.moveCenter(face().center());
     const double radius = track.height() / 2;
     QPainter painter(this);
-    painter.setOpacity(opacity());
     if (isEnabled()) {
         drawSticker(
             painter, place,

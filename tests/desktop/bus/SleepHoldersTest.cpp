@@ -92,6 +92,8 @@ TEST_F(SleepHolders, whoInhibitsAtARealSessionManagerIsAHolderUntilItDies) {
     auto player = inhibit("idle", "org.gnome.Totem");
     const auto burner = inhibit("logout", "brasero");
     EXPECT_TRUE(become({"org.gnome.Totem: Playing video"}));
+    constexpr char oneInEachPath = 'I';
+    ASSERT_TRUE(comesTrue([&] { return std::ranges::count(inhibitors(), oneInEachPath) == 2; }));
     const std::string before = inhibitors();
     services.sleepAssertion->hold("Quietlark long break");
     EXPECT_TRUE(comesTrue([&] { return inhibitors() != before; }));

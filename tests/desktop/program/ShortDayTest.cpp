@@ -42,6 +42,20 @@ TEST_F(ShortDayTest, aDueBreakWaitsForTheTypingToStopAndBeginsWithItsSound) {
     EXPECT_EQ(program->wait(), 0);
 }
 
+TEST_F(ShortDayTest, thePetInTheWelcomeSoundsWhenItIsTouched) {
+    const auto program = home->start(); // of a person who was never welcomed
+    std::string welcome;
+    ASSERT_TRUE(spinUntil([&] {
+        welcome = server->run({"xdotool", "search", "--onlyvisible", "--name", "Welcome to Quietlark"});
+        return !welcome.empty();
+    })) << home->errors();
+    welcome.resize(welcome.find('\n'));
+    EXPECT_TRUE(spinUntil([&] {
+        server->run({"xdotool", "mousemove", "--window", welcome, "95", "125", "click", "1"});
+        return !streams().empty();
+    }));
+}
+
 TEST_F(ShortDayTest, aCallHoldsTheBreakUntilItEnds) {
     wumble::WumbleSettings settings = shortDay();
     settings.smartPauseCooldown = 0;

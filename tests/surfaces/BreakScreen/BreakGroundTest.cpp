@@ -55,6 +55,19 @@ TEST(BreakGround, theScreenShinesThroughTheVeilOfABlurredOne) {
     EXPECT_EQ(seen.alpha(), 255);
 }
 
+TEST(BreakGround, isTheSameWhenItCameBitByBitUnseen) {
+    const BreakGround::Look look{.style = BreakScreenStyle::blur, .appearance = dark};
+    BreakGround ground(redScreen());
+    ground.setLook(look);
+    QImage image = canvas();
+    QPainter painter(&image);
+    const QRect all(QPoint(), window);
+    ground.draw(painter, window, all, 0);
+    EXPECT_EQ(image, canvas());
+    ground.draw(painter, window, all, 1);
+    EXPECT_EQ(image, drawn(look, 1, redScreen()));
+}
+
 TEST(BreakGround, whereNothingBlendsItIsNeverSeenThrough) {
     EXPECT_NEAR(drawn({.appearance = dark}, 0.5).pixelColor(1, 1).alpha(), 128, 1);
     const BreakGround::Look opaque{.appearance = dark, .blends = false};

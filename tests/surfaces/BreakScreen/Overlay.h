@@ -3,7 +3,7 @@
 #include "Quietlark/Surfaces/BreakScreen/BreakOverlayController.h"
 
 #include "Quietlark/Surfaces/BreakScreen/BreakView.h"
-#include "Quietlark/Surfaces/BreakScreen/Fading.h"
+#include "Quietlark/Surfaces/Fading.h"
 #include "WumbleCore/Storage/Files.h"
 #include "tests/app/ModelDriver.h"
 #include "tests/support/RecordingSurfaceHost.h"

@@ -2,6 +2,8 @@
 
 #include "WumbleCore/Words/Format.h"
 #include "tests/app/ModelDriver.h"
+#include "tests/support/Pets.h"
+#include "tests/support/Records.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -66,6 +68,34 @@ TEST_F(SettingsWindowTest, opensAtLoginOnlyWhereThatWorked) {
     button("Open Quietlark when I log in")->click();
     EXPECT_TRUE(driver.loginItem.isEnabled());
     EXPECT_TRUE(button("Open Quietlark when I log in")->isChecked());
+}
+
+TEST(CrewInSettings, theRecapThatWaitsIsShownThereAndIsSeenThen) {
+    ModelDriver driver([](auto&) {}, wumble::test::at("2026-06-01T08:00:00Z"));
+    const wumble::Storage storage(driver.folder.path());
+    auto life = storage.loadLife();
+    wumble::test::addPet(life, "2026-05-27", 0);
+    wumble::test::addPet(life, "2026-05-28", 6);
+    storage.save(life);
+    storage.append(wumble::test::breakEnding("2026-05-28T10:00:00Z"));
+    driver.launch();
+    QProperty<Appearance> appearance;
+    SettingsWindow window(driver.model(), nullptr, appearance);
+    const auto shows = [&](const char* words) {
+        for (const auto* widget : window.window().findChildren<QWidget*>()) {
+            if (widget->accessibleName() == QLatin1String(words)) {
+                return true;
+            }
+        }
+        return false;
+    };
+    const auto waiting = driver.model().unseenRecap();
+    ASSERT_TRUE(waiting);
+    window.presentCrew({waiting->period, waiting->start});
+    EXPECT_NE(driver.model().unseenRecap(), waiting);
+    EXPECT_TRUE(shows("You met 2 Wumbles last month, and 1 grew all the way. "
+                      "One stayed a soft little clump, and that's fine too."));
+    EXPECT_TRUE(shows("1 break taken"));
 }
 
 } // namespace

@@ -89,13 +89,13 @@ const std::vector<Case> cases = {
          driver.desktop.secondsSinceKeyDown = 0.1;
          driver.run(quickBreaksEvery + 4);
      },
-     "Typing", "Break waits | The break starts when you pause", all, withoutCountdown},
+     "Typing", "Break waits | The break starts when you pause typing", all, withoutCountdown},
     {"typing in the last seconds",
      [](ModelDriver& driver) {
          driver.desktop.secondsSinceKeyDown = 0.1;
          driver.run(quickBreaksEvery + 4);
      },
-     "0:05", "Quick break in | 0:05 | The break starts when you pause", all},
+     "0:05", "Quick break in | 0:05 | The break starts when you pause typing", all},
     {"paused for an hour",
      [](ModelDriver& driver) {
          driver.model().pause(3600, Asked::menu);
@@ -122,7 +122,7 @@ const std::vector<Case> cases = {
     {"off hours",
      [](ModelDriver& driver) { driver.run(5); },
      "",
-     "Off hours · back | at 1:00 PM",
+     "Off hours · back at 1:00 PM",
      {"Break now"},
      afternoonsOnly},
 };

@@ -62,7 +62,7 @@ TEST_F(WelcomeTest, startingWithoutAChoiceKeepsTheSettingsAndBegins) {
 }
 
 TEST_F(WelcomeTest, whatWasPickedBecomesTheRhythm) {
-    press("30 min");
+    press("every 30 min");
     press("customize");
     press("1 min");
     press("10 min");
@@ -83,7 +83,7 @@ TEST_F(WelcomeTest, lookingAroundLeavesTheBreaksOff) {
 }
 
 TEST_F(WelcomeTest, closingItHalfWayAsksAgainAtTheNextStart) {
-    press("45 min");
+    press("every 45 min");
     welcome->window().close();
     EXPECT_FALSE(isWelcomed());
     EXPECT_EQ(settings().workInterval, 1200);

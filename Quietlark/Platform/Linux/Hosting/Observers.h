@@ -17,15 +17,6 @@ public:
         return std::const_pointer_cast<std::function<void()>>(kept);
     }
 
-    bool hasAny() const {
-        for (const auto& each : observers_) {
-            if (!each.expired()) {
-                return true;
-            }
-        }
-        return false;
-    }
-
     /// One may leave, or others may come, while it is told.
     void tell() const {
         for (const auto& each : std::vector(observers_)) {

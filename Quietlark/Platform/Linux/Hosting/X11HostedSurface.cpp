@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -27,6 +28,12 @@ std::vector<xcb_rectangle_t> pixelsOf(const QRegion& region, double scale) {
                               static_cast<std::uint16_t>(pixels.height())});
     }
     return rectangles;
+}
+
+/// Scaled or not, the corner of a screen has the same numbers in points and in pixels.
+QPoint pixelAt(QPointF point, const QScreen& screen) {
+    const QPointF corner = screen.geometry().topLeft();
+    return (corner + (point - corner) * screen.devicePixelRatio()).toPoint();
 }
 
 } // namespace
@@ -68,10 +75,27 @@ xcb_window_t X11HostedSurface::id() const { return static_cast<xcb_window_t>(win
 void X11HostedSurface::setFrame(const QRectF& frame) {
     frame_ = frame;
     const QRect place = frame.toRect();
-    if (QScreen* screen = QGuiApplication::screenAt(place.center())) {
-        window_->setScreen(screen);
+    QScreen* screen = QGuiApplication::screenAt(place.center());
+    const bool onlyMoves = isMapped_ && screen == window_->screen() && place.size() == window_->size();
+    if (!onlyMoves) {
+        if (screen != nullptr) {
+            window_->setScreen(screen);
+        }
+        window_->setGeometry(place);
     }
-    window_->setGeometry(place);
+    moveToPixel();
+}
+
+/// The toolkit moves by whole points, which the eye sees as steps where a point is several pixels.
+void X11HostedSurface::moveToPixel() {
+    const QScreen* screen = window_->screen();
+    if (!isMade() || screen == nullptr) {
+        return;
+    }
+    const QPoint pixel = pixelAt(frame_.topLeft(), *screen);
+    const std::array place{static_cast<std::uint32_t>(pixel.x()), static_cast<std::uint32_t>(pixel.y())};
+    xcb_configure_window(desk_.connection, id(), XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, place.data());
+    xcb_flush(desk_.connection);
 }
 
 void X11HostedSurface::make() {
@@ -106,6 +130,7 @@ void X11HostedSurface::setMapped(bool mapped) {
 
 void X11HostedSurface::map() {
     make();
+    moveToPixel();
     window_->show();
     desk_.layers.add(id(), style_.layer);
     if (style_.keyboard == Keyboard::whole) {

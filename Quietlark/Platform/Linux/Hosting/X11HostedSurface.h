@@ -39,6 +39,7 @@ private:
 
     xcb_window_t id() const;
     bool isMade() const { return id() != XCB_NONE; }
+    void moveToPixel();
     void make();
     void mark();
     void map();

@@ -2,6 +2,9 @@
 
 #include "Quietlark/Platform/Linux/X11/X11Reply.h"
 
+#include <QCoreApplication>
+#include <QMouseEvent>
+
 #include <utility>
 
 namespace quietlark {
@@ -11,23 +14,42 @@ namespace {
 /// The wheel presses buttons as well.
 bool isWheel(std::uint32_t button) { return button >= 4 && button <= 7; }
 
+/// When our own windows were pressed last: what was pressed there may be gone before the press is told of from the
+/// root.
+class OwnPresses : public QObject {
+public:
+    std::optional<xcb_timestamp_t> last;
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
+            last = static_cast<xcb_timestamp_t>(static_cast<QMouseEvent*>(event)->timestamp());
+        }
+        return false;
+    }
+};
+
 } // namespace
 
 /// Lives as long as anybody wants to know.
 struct X11Outside::Wanting {
-    explicit Wanting(X11RawInput& input) : rawInput(input) { rawInput.wantButtons(true); }
+    explicit Wanting(X11RawInput& input) : rawInput(input) {
+        rawInput.wantButtons(true);
+        QCoreApplication::instance()->installEventFilter(&own);
+    }
     ~Wanting() { rawInput.wantButtons(false); }
     Wanting(const Wanting&) = delete;
     Wanting& operator=(const Wanting&) = delete;
 
     X11RawInput& rawInput;
+    OwnPresses own;
 };
 
 X11Outside::X11Outside(X11Wire& wire, X11RawInput& rawInput, std::function<bool(xcb_window_t)> isOurs)
     : wire_(wire), rawInput_(rawInput), isOurs_(std::move(isOurs)),
       activeWindow_(wire.atom("_NET_ACTIVE_WINDOW")) {
     wire_.read([this](const xcb_generic_event_t& event) { take(event); });
-    rawInput_.whenButtonPressed([this](std::uint32_t button) { pressed(button); });
+    rawInput_.whenButtonPressed([this](X11RawInput::Press press) { pressed(press); });
 }
 
 X11Outside::Subscription X11Outside::observe(std::function<void()> left) {
@@ -73,13 +95,18 @@ void X11Outside::tookFront(xcb_window_t front) {
     }
 }
 
-void X11Outside::pressed(std::uint32_t button) {
-    if (isWheel(button)) {
+bool X11Outside::wasForUs(X11RawInput::Press press) const {
+    const auto wanting = wanting_.lock();
+    return wanting && wanting->own.last == press.time;
+}
+
+void X11Outside::pressed(X11RawInput::Press press) {
+    if (isWheel(press.button)) {
         return;
     }
-    wire_.ask(xcb_query_pointer(wire_.get(), wire_.root()).sequence, [this](const void* reply) {
+    wire_.ask(xcb_query_pointer(wire_.get(), wire_.root()).sequence, [this, press](const void* reply) {
         const auto* place = static_cast<const xcb_query_pointer_reply_t*>(reply);
-        if (!place || !isOurs_(place->child)) {
+        if (!wasForUs(press) && (!place || !isOurs_(place->child))) {
             observers_.tell();
         }
     });

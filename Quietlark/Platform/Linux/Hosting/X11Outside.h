@@ -23,7 +23,8 @@ private:
     struct Wanting;
 
     void take(const xcb_generic_event_t& event);
-    void pressed(std::uint32_t button);
+    void pressed(X11RawInput::Press press);
+    bool wasForUs(X11RawInput::Press press) const;
     void askFront();
     void tookFront(xcb_window_t front);
 

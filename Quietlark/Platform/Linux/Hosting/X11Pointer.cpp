@@ -16,9 +16,11 @@ constexpr qint64 freshMilliseconds = 50;
 
 } // namespace
 
-X11Pointer::~X11Pointer() {
-    if (asked_) {
-        xcb_discard_reply(connection_, asked_->sequence);
+X11Pointer::~X11Pointer() { forget(); }
+
+void X11Pointer::forget() {
+    if (const auto old = std::exchange(asked_, {})) {
+        xcb_discard_reply(connection_, old->sequence);
     }
 }
 
@@ -37,9 +39,7 @@ void X11Pointer::take(xcb_query_pointer_reply_t* reply) {
 std::optional<QPoint> X11Pointer::pixels() {
     const bool isFresh = asked_ && age_.elapsed() < freshMilliseconds;
     if (!isFresh) {
-        if (const auto old = std::exchange(asked_, {})) {
-            xcb_discard_reply(connection_, old->sequence);
-        }
+        forget();
         ask();
         take(xcb_query_pointer_reply(connection_, *asked_, nullptr));
         ask();

@@ -22,6 +22,9 @@ public:
     /// Absent while it is on another screen of the server.
     std::optional<QPoint> pixels();
 
+    /// The next answer is that to a question asked then.
+    void forget();
+
 private:
     void ask();
     void take(xcb_query_pointer_reply_t* reply);

@@ -48,7 +48,7 @@ void X11RawInput::take(const xcb_generic_event_t& event) {
     if (raw.event_type == XCB_INPUT_RAW_KEY_PRESS && keyPressed_) {
         keyPressed_();
     } else if (raw.event_type == XCB_INPUT_RAW_BUTTON_PRESS && buttonPressed_) {
-        buttonPressed_(raw.detail);
+        buttonPressed_({raw.detail, raw.time});
     }
 }
 

@@ -11,6 +11,11 @@ namespace quietlark {
 /// Presses as the devices tell of them, whichever window they are for: told for as long as somebody wants to know.
 class X11RawInput {
 public:
+    struct Press {
+        std::uint32_t button = 0;
+        xcb_timestamp_t time = 0; ///< milliseconds of the server's clock
+    };
+
     /// `wire` outlives this. Waits for the server.
     explicit X11RawInput(X11Wire& wire);
 
@@ -19,9 +24,7 @@ public:
 
     void whenKeyPressed(std::function<void()> pressed) { keyPressed_ = std::move(pressed); }
     /// With the number of the button.
-    void whenButtonPressed(std::function<void(std::uint32_t)> pressed) {
-        buttonPressed_ = std::move(pressed);
-    }
+    void whenButtonPressed(std::function<void(Press)> pressed) { buttonPressed_ = std::move(pressed); }
 
     void wantKeys(bool wanted);
     void wantButtons(bool wanted);
@@ -34,7 +37,7 @@ private:
     std::optional<std::uint8_t> opcode_;
     std::uint32_t selected_ = 0;
     std::function<void()> keyPressed_;
-    std::function<void(std::uint32_t)> buttonPressed_;
+    std::function<void(Press)> buttonPressed_;
 };
 
 } // namespace quietlark

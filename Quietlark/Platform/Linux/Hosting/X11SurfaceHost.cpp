@@ -25,6 +25,11 @@ std::optional<QPointF> X11SurfaceHost::pointer() const {
     return pixels ? desk_.screens.points(*pixels) : std::nullopt;
 }
 
+std::optional<QPointF> X11SurfaceHost::pointerNow() const {
+    desk_.pointer.forget();
+    return pointer();
+}
+
 SurfaceHost::Subscription X11SurfaceHost::observeOutside(std::function<void()> pressedOrLeft) {
     return desk_.outside.observe(std::move(pressedOrLeft));
 }

@@ -14,6 +14,7 @@ public:
     std::vector<Screen> screens() const override;
     Subscription observeScreens(std::function<void()> changed) override;
     std::optional<QPointF> pointer() const override;
+    std::optional<QPointF> pointerNow() const override;
     Subscription observeOutside(std::function<void()> pressedOrLeft) override;
     bool blends() const override;
     std::optional<QImage> backdrop(const Screen& screen) const override;

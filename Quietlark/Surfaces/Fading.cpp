@@ -1,4 +1,4 @@
-#include "Quietlark/Surfaces/BreakScreen/Fading.h"
+#include "Quietlark/Surfaces/Fading.h"
 
 #include <QGraphicsOpacityEffect>
 #include <QWidget>
