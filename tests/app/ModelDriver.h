@@ -16,19 +16,6 @@ namespace quietlark::test {
 
 using wumble::test::at;
 
-/// In memory where the machine offers that: a week saves thousands of times.
-inline std::filesystem::path quickFolder() {
-    const std::filesystem::path memory = "/dev/shm";
-    return std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
-}
-
-/// Never has a word on a capture, and nothing waits for one: what a test sees doesn't hang on the log's thread.
-struct UnreadableLog final : CaptureLogRunner {
-    bool launch(Received, Ended) override { return false; }
-    std::optional<std::string> lookBack() override { return std::nullopt; }
-    void terminate() override {}
-};
-
 struct FakeLoginItem final : LoginItem {
     bool enabled = false;
     std::optional<std::string> refusal;
@@ -47,64 +34,28 @@ class ModelDriver {
 public:
     explicit ModelDriver(
         const std::function<void(wumble::WumbleSettings&)>& choose = [](auto&) {},
-        wumble::Date start = at("2026-03-09T08:00:00Z"))
-        : loop(start) {
-        desktop.frontWindow = AppWindow{.id = 1, .pid = 77};
-        wumble::Storage storage(folder.path());
-        wumble::WumbleSettings settings;
-        settings.nudgesBetween = 0;
-        choose(settings);
-        storage.save(settings);
-        wumble::WumbleLife life;
-        life.welcomed = true;
-        life.greetedDay = life.today(start, calendar(), choice()).day;
-        storage.save(life);
-    }
+        wumble::Date start = at("2026-03-09T08:00:00Z"));
+    ~ModelDriver();
+    ModelDriver(const ModelDriver&) = delete;
+    ModelDriver& operator=(const ModelDriver&) = delete;
 
     /// Brings the program up on what the folder holds; what ran before is gone without a word.
-    AppModel& launch(AppModel::Running running = AppModel::Running::ticking) {
-        model_.reset();
-        platform_ = platform();
-        model_ = std::make_unique<AppModel>(folder.path(), services());
-        model_->install({&statusItem, &headsUp, &overlay, &toasts, &countdown});
-        statusItem.closed = [this] { model_->popoverDidClose(); };
-        model_->start(running);
-        return *model_;
-    }
+    AppModel& launch(AppModel::Running running = AppModel::Running::ticking);
 
-    AppModelServices services() {
-        return {.mainLoop = loop,
-                .platform = platform_,
-                .sounds = &sounds,
-                .loginItem = &loginItem,
-                .accessibility = &accessibility,
-                .calendar = calendar(),
-                .random = choice()};
-    }
-
-    Platform platform() {
-        Platform made = platformOf(desktop);
-        made.captureLogRunner = std::make_unique<UnreadableLog>();
-        return made;
-    }
+    AppModelServices services();
+    Platform platform();
 
     AppModel& model() { return model_ ? *model_ : launch(); }
     const AppState& state() { return model().state(); }
-    std::string status() { return statusLine(state(), calendar()); }
+    std::string status();
 
     /// Lets time pass and gives what happened meanwhile.
-    Told run(double seconds) {
-        model();
-        loop.advance(seconds);
-        return told();
-    }
+    Told run(double seconds);
 
     /// What happened since it was last asked.
     Told told() { return std::exchange(told_, {}); }
 
-    void call(bool on = true) {
-        desktop.recordingApps = on ? std::vector{AppRef{.pid = 5, .name = "Zoom"}} : std::vector<AppRef>();
-    }
+    void call(bool on = true);
 
     void lockScreen(bool locked = true) { desktop.setSession({.screenLocked = locked}); }
 
@@ -119,7 +70,7 @@ private:
     Told told_;
 
 public:
-    wumble::test::TemporaryFolder folder{quickFolder()};
+    wumble::test::TemporaryFolder folder;
     ManualMainLoop loop;
     Desktop desktop;
     RecordingStatusItem statusItem;

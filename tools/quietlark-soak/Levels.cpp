@@ -4,6 +4,7 @@
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
+#include <QThread>
 
 #include <algorithm>
 #include <cstdio>
@@ -15,8 +16,8 @@ namespace quietlark::soak {
 
 namespace {
 
-/// The history grows by a line a break, and what is drawn with is kept for the next time.
-constexpr long heapAllowance = 256;         // KiB
+/// The history grows by a line a break, and glyphs that were drawn once are kept for the next time.
+constexpr long heapAllowance = 512;         // KiB
 constexpr long privateAllowance = 2 * 1024; // KiB
 
 long entriesOf(const char* folder) {
@@ -76,7 +77,8 @@ std::vector<Level> countLevels() {
     std::vector<Level> levels;
     countMemory(levels);
     levels.push_back({"files", entriesOf("/proc/self/fd")});
-    levels.push_back({"threads", entriesOf("/proc/self/task")});
+    // Those that help with drawing end half a minute after they last did.
+    levels.push_back({"threads", entriesOf("/proc/self/task"), QThread::idealThreadCount()});
     levels.push_back({"bus", ownBusConnections()});
     auto held = ownXResources();
     for (const char* kind : {"connection", "WINDOW", "PIXMAP", "GC", "CURSOR", "PICTURE"}) {

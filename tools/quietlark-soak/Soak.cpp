@@ -6,7 +6,9 @@
 
 #include <QApplication>
 #include <QDBusMessage>
+#include <QWidget>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <utility>
@@ -18,9 +20,21 @@ namespace {
 /// What else happens on the desktop gets its turn at least so often.
 constexpr std::chrono::milliseconds longestTurn{8};
 
+/// A sound takes as long as ever, however fast the days go.
+constexpr std::chrono::seconds untilQuiet{2};
+
 /// The person looks into the popover every so many seconds, and away again after a while.
 constexpr double lookEvery = 1500;
 constexpr double lookFor = 20;
+
+/// What is on the screen at the end of a day is waited for: it goes by itself or by a press of the icon.
+constexpr double longestShowing = 600;
+constexpr int calm = 30; ///< seconds without anything
+
+bool isAnythingShown() {
+    return std::ranges::any_of(QApplication::topLevelWidgets(),
+                               [](const QWidget* window) { return window->isVisible(); });
+}
 
 bool isAt(double seconds, double every, double after) { return std::fmod(seconds, every) == after; }
 
@@ -49,13 +63,13 @@ void Soak::begin() {
 void Soak::catchUp() {
     const auto turnEnds = Clock::now() + longestTurn;
     const double due = std::chrono::duration<double>(Clock::now() - begun_).count() * speed_;
-    while (passed_ < due && Clock::now() < turnEnds) {
+    while (pace_.isActive() && passed_ < due && Clock::now() < turnEnds) {
         if (scene_ == recording_.scenes.size()) {
             pace_.stop();
             QCoreApplication::quit();
-            return;
+        } else {
+            second();
         }
-        second();
     }
 }
 
@@ -63,7 +77,11 @@ void Soak::catchUp() {
 void Soak::second() {
     const Scene& scene = recording_.scenes[scene_];
     const double left = scene.until - loop_.now();
-    if (left <= 0) {
+    const bool isTold = std::holds_alternative<act::Tell>(scene.atEnd);
+    calmFor_ = isAnythingShown() ? 0 : calmFor_ + 1;
+    if (left <= 0 && left > -longestShowing && isTold && calmFor_ < calm) {
+        look(scene, 1);
+    } else if (left <= 0) {
         ++scene_;
         carryOut(scene.atEnd);
     } else if (scene.machine == Scene::Machine::asleep) {
@@ -82,6 +100,7 @@ void Soak::look(const Scene& scene, double seconds) {
     passed_ += seconds;
     if (!isAway && (isAt(passed_, lookEvery, 0) || isAt(passed_, lookEvery, lookFor))) {
         pressTheIcon();
+        calmFor_ = 0;
     }
 }
 
@@ -108,11 +127,19 @@ void Soak::carryOut(const Act& act) {
             program_.reset();
             begin();
         },
-        [&](const act::Tell&) { tell(); });
+        [&](const act::Tell&) { tellWhenQuiet(); });
+}
+
+void Soak::tellWhenQuiet() {
+    pace_.stop();
+    QTimer::singleShot(untilQuiet, &pace_, [this] {
+        tell();
+        begun_ += untilQuiet;
+        pace_.start();
+    });
 }
 
 void Soak::tell() {
-    QCoreApplication::processEvents();
     rows_.push_back(countLevels());
     if (rows_.size() == 1) {
         std::printf("%-11s %8s", "day", "breaks");

@@ -34,6 +34,7 @@ private:
     void look(const Scene& scene, double seconds);
     void pressTheIcon() const;
     void carryOut(const Act& act);
+    void tellWhenQuiet();
     void tell();
 
     std::filesystem::path folder_;
@@ -47,6 +48,7 @@ private:
     QTimer pace_;
     Clock::time_point begun_;
     double passed_ = 0; ///< recorded seconds, but for those slept through
+    int calmFor_ = 0;   ///< recorded seconds with nothing on the screen
     std::vector<std::vector<Level>> rows_;
 };
 

@@ -1,26 +1,23 @@
 #include "tools/quietlark-soak/XResources.h"
 
+#include "Quietlark/Platform/Linux/X11/X11Server.h"
+
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 #include <unistd.h>
 #include <vector>
 
 #include <xcb/res.h>
-#include <xcb/xcb.h>
 
 namespace quietlark::soak {
 
 namespace {
 
-struct Free {
-    void operator()(void* reply) const { std::free(reply); }
-};
-template <class Reply> std::unique_ptr<Reply, Free> owned(Reply* reply) {
-    return std::unique_ptr<Reply, Free>(reply);
+template <class Reply> std::unique_ptr<Reply, X11Free> owned(Reply* reply) {
+    return std::unique_ptr<Reply, X11Free>(reply);
 }
 
-using Connection = std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)>;
+using Connection = std::unique_ptr<xcb_connection_t, X11Disconnect>;
 
 /// The first resource numbers of this process's connections, but for the one that asks.
 std::vector<std::uint32_t> ownClients(xcb_connection_t* server) {
@@ -55,7 +52,7 @@ std::string nameOf(xcb_connection_t* server, xcb_atom_t atom) {
 } // namespace
 
 std::map<std::string, long> ownXResources() {
-    const Connection server(xcb_connect(nullptr, nullptr), &xcb_disconnect);
+    const Connection server(xcb_connect(nullptr, nullptr));
     std::map<std::string, long> held;
     if (xcb_connection_has_error(server.get()) != 0) {
         return held;
