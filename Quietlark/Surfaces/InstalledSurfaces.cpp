@@ -6,6 +6,10 @@
 #include "Quietlark/Surfaces/Notes/ToastController.h"
 #include "Quietlark/Surfaces/Nudges/NudgeCards.h"
 #include "Quietlark/Surfaces/Tray/StatusItemController.h"
+#include "Quietlark/Theme/Sizes.h"
+
+#include <QPalette>
+#include <QToolTip>
 
 #include <optional>
 
@@ -49,6 +53,17 @@ Appearance appearanceFor(const DesktopLook& look, wumble::Appearance choice) {
             .textScale = look.textScale};
 }
 
+namespace {
+
+void colourTips(const Appearance& appearance) {
+    QPalette colours;
+    colours.setColor(QPalette::ToolTipBase, colour(Surface::card, appearance));
+    colours.setColor(QPalette::ToolTipText, colour(Role::text, appearance));
+    QToolTip::setPalette(colours);
+}
+
+} // namespace
+
 InstalledSurfaces::InstalledSurfaces(const SurfaceServices& services)
     : model_(services.model), desktopLook_(services.desktopLook),
       settingsFollowed_(observe(model_.state().settings, [this] { refreshAppearance(); })) {
@@ -84,6 +99,7 @@ void InstalledSurfaces::openPopover() {
 void InstalledSurfaces::refreshAppearance() {
     const DesktopLook look = desktopLook_ ? desktopLook_->look() : DesktopLook{};
     appearance_ = appearanceFor(look, model_.state().settings.value().appearance);
+    colourTips(appearance_.value());
 }
 
 } // namespace quietlark
