@@ -43,6 +43,7 @@ bool SoundLab::start() {
         return false;
     }
     servers_.push_back(run({"wireplumber"}));
+    router_ = servers_.back().get();
     servers_.push_back(run({"pipewire-pulse"}));
     if (!spinUntil(socket("pulse/native"))) {
         return false;
@@ -67,6 +68,8 @@ void SoundLab::stop() {
         unlink((folder_ / name).c_str());
     }
 }
+
+void SoundLab::endRouting() { router_->end(); }
 
 void SoundLab::signal(int number) const {
     for (const auto& server : servers_) {

@@ -22,6 +22,9 @@ public:
     /// Ends all of it.
     void stop();
 
+    /// Ends what joins streams with speakers: the server still takes them, and they wait.
+    void endRouting();
+
     /// To all of the servers: SIGSTOP and SIGCONT freeze and thaw.
     void signal(int number) const;
 
@@ -37,6 +40,7 @@ private:
     wumble::test::TemporaryFolder folder_;
     std::string bus_; ///< the session manager of the servers doesn't start without one
     std::vector<std::unique_ptr<LabProcess>> servers_;
+    LabProcess* router_ = nullptr; ///< one of them
 };
 
 } // namespace quietlark::lab

@@ -154,5 +154,13 @@ TEST_F(CuePlayerTest, aServerThatEndsTakesTheSoundWithItAndTheNextOneIsHeard) {
     EXPECT_TRUE(hearsIn(Cue::reminder, {880}));
 }
 
+TEST_F(CuePlayerTest, whatAServerHasNowhereToPlayIsTakenBack) {
+    lab.endRouting();
+    player.play(Cue::boop, 1);
+    player.play(Cue::reminder, 1);
+    EXPECT_TRUE(output.isConnected());
+    EXPECT_TRUE(spinUntil([&] { return !output.isConnected(); }));
+}
+
 } // namespace
 } // namespace quietlark::lab

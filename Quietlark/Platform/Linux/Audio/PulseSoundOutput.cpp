@@ -6,6 +6,7 @@
 #include <cmath>
 #include <pulse/glib-mainloop.h>
 #include <pulse/pulseaudio.h>
+#include <pulse/rtclock.h>
 #include <utility>
 
 namespace quietlark {
@@ -16,6 +17,9 @@ constexpr pa_sample_spec format{.format = PA_SAMPLE_S16NE, .rate = 44'100, .chan
 
 /// A sound that couldn't begin by then has missed its moment.
 constexpr double longestConnecting = 3;
+
+/// A server that has nowhere to play a sound keeps it waiting; it is taken back this long after it should have ended.
+constexpr pa_usec_t longestDelay = 3 * PA_USEC_PER_SEC;
 
 /// Sounds often come in pairs; the connection waits this long for the second.
 constexpr double silenceBeforeDisconnecting = 1;
@@ -34,6 +38,7 @@ struct PulseSoundOutput::Sound {
     PulseSoundOutput& output;
     std::vector<std::int16_t> samples;
     pa_stream* stream = nullptr;
+    pa_time_event* deadline = nullptr;
 };
 
 PulseSoundOutput::PulseSoundOutput(MainLoop& loop)
@@ -76,11 +81,7 @@ void PulseSoundOutput::connect() {
 
 void PulseSoundOutput::disconnect() {
     for (const auto& sound : sounds_) {
-        if (sound->stream != nullptr) {
-            pa_stream_set_state_callback(sound->stream, nullptr, nullptr);
-            pa_stream_disconnect(sound->stream);
-            pa_stream_unref(sound->stream);
-        }
+        close(*sound);
     }
     sounds_.clear();
     if (context_ != nullptr) {
@@ -103,6 +104,7 @@ void PulseSoundOutput::contextChanged() {
 
 void PulseSoundOutput::begin(Sound& sound) {
     const auto bytes = static_cast<std::uint32_t>(sound.samples.size() * sizeof(std::int16_t));
+    setDeadline(sound, pa_bytes_to_usec(bytes, &format));
     sound.stream = pa_stream_new(context_, "Cue", &format, nullptr);
     if (sound.stream == nullptr) {
         return;
@@ -136,10 +138,30 @@ void PulseSoundOutput::begin(Sound& sound) {
     pa_stream_connect_playback(sound.stream, nullptr, &whole, PA_STREAM_NOFLAGS, nullptr, nullptr);
 }
 
+/// Measured on the clock that the sound itself goes by.
+void PulseSoundOutput::setDeadline(Sound& sound, std::uint64_t microseconds) {
+    sound.deadline = pa_context_rttime_new(
+        context_, pa_rtclock_now() + microseconds + longestDelay,
+        [](pa_mainloop_api*, pa_time_event*, const timeval*, void* late) {
+            const Sound& waiting = *static_cast<Sound*>(late);
+            waiting.output.end(waiting);
+        },
+        &sound);
+}
+
+void PulseSoundOutput::close(const Sound& sound) {
+    if (sound.deadline != nullptr) {
+        pa_glib_mainloop_get_api(mainLoop_)->time_free(sound.deadline);
+    }
+    if (sound.stream != nullptr) {
+        pa_stream_set_state_callback(sound.stream, nullptr, nullptr);
+        pa_stream_disconnect(sound.stream);
+        pa_stream_unref(sound.stream);
+    }
+}
+
 void PulseSoundOutput::end(const Sound& sound) {
-    pa_stream_set_state_callback(sound.stream, nullptr, nullptr);
-    pa_stream_disconnect(sound.stream);
-    pa_stream_unref(sound.stream);
+    close(sound);
     std::erase_if(sounds_, [&sound](const auto& other) { return other.get() == &sound; });
     if (sounds_.empty()) {
         loop_.after(silenceBeforeDisconnecting, [this, isAlive = isAlive_] {

@@ -3,6 +3,7 @@
 #include "Quietlark/MainLoop.h"
 #include "Quietlark/Platform/SoundOutput.h"
 
+#include <cstdint>
 #include <list>
 #include <memory>
 
@@ -33,6 +34,8 @@ private:
     void disconnect();
     void contextChanged();
     void begin(Sound& sound);
+    void setDeadline(Sound& sound, std::uint64_t microseconds);
+    void close(const Sound& sound);
     void end(const Sound& sound);
     void disconnectWhenSilent();
 
