@@ -3,6 +3,7 @@
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Theme/Sizes.h"
 
+#include <QEnterEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -25,6 +26,7 @@ bool bringsRing(Qt::FocusReason reason) {
 
 PressControl::PressControl(QWidget* parent) : QAbstractButton(parent) {
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
     setContentsMargins(margin, margin, margin, margin);
     way_.setDuration(moveMilliseconds);
     way_.setEasingCurve(QEasingCurve::OutCubic);
@@ -102,15 +104,24 @@ void PressControl::focusInEvent(QFocusEvent* event) {
     QAbstractButton::focusInEvent(event);
 }
 
-void PressControl::enterEvent(QEnterEvent* event) {
-    isOver_ = true;
+/// Only where a press would count, so that what lifts can be pressed.
+void PressControl::setOver(bool isOver) {
+    isOver_ = isOver;
     move();
+}
+
+void PressControl::mouseMoveEvent(QMouseEvent* event) {
+    setOver(hitButton(event->position().toPoint()));
+    QAbstractButton::mouseMoveEvent(event);
+}
+
+void PressControl::enterEvent(QEnterEvent* event) {
+    setOver(hitButton(event->position().toPoint()));
     QAbstractButton::enterEvent(event);
 }
 
 void PressControl::leaveEvent(QEvent* event) {
-    isOver_ = false;
-    move();
+    setOver(false);
     QAbstractButton::leaveEvent(event);
 }
 

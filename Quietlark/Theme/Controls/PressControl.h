@@ -33,6 +33,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
@@ -41,6 +42,7 @@ protected:
 private:
     double wantedOffset() const;
     void move();
+    void setOver(bool isOver);
 
     QVariantAnimation way_;
     bool isOver_ = false;
