@@ -39,7 +39,7 @@ constexpr std::array sounds{Sound{SettingsWords::breakSounds, &wumble::WumbleSet
                             Sound{SettingsWords::nudgeSounds, &wumble::WumbleSettings::reminderSoundsEnabled},
                             Sound{SettingsWords::pokeSounds, &wumble::WumbleSettings::pokeSoundsEnabled}};
 
-QWidget* row(const SettingsWords::Row& words, QWidget* control) {
+QLayout* row(const SettingsWords::Row& words, QWidget* control) {
     return paperRow(words.title, words.detail, control);
 }
 
@@ -66,14 +66,14 @@ QWidget* SettingsView::breaks() {
     auto* card = new PaperCard;
     QVBoxLayout* column = card->column();
     column->addWidget(new TextBlock(text(SettingsWords::breaks), {.token = TypeToken::title}));
-    column->addWidget(
+    column->addLayout(
         numberRow(SettingsWords::quickEvery, {1200, 1800, 2700}, &WumbleSettings::workInterval));
-    column->addWidget(
+    column->addLayout(
         numberRow(SettingsWords::quickLength, {20, 30, 45, 60}, &WumbleSettings::shortBreakDuration));
-    column->addWidget(longEveryRow());
-    column->addWidget(
+    column->addLayout(longEveryRow());
+    column->addLayout(
         numberRow(SettingsWords::longLength, {180, 300, 600}, &WumbleSettings::longBreakDuration));
-    column->addWidget(nudgesRow());
+    column->addLayout(nudgesRow());
     return card;
 }
 
@@ -82,20 +82,20 @@ QWidget* SettingsView::general() {
     QVBoxLayout* column = card->column();
     column->addWidget(new TextBlock(text(SettingsWords::general), {.token = TypeToken::title}));
     if (loginItem_ != nullptr) {
-        column->addWidget(loginRow());
+        column->addLayout(loginRow());
     }
-    column->addWidget(appearanceRow());
-    column->addWidget(volumeRow());
+    column->addLayout(appearanceRow());
+    column->addLayout(volumeRow());
     column->addSpacing(soundsGap);
     column->addWidget(new TextBlock(text(SettingsWords::whatSounds),
                                     {.token = TypeToken::callout, .ink = Role::textMuted, .mostLines = 2}));
     for (const auto& [words, field] : sounds) {
-        column->addWidget(soundRow(words, field));
+        column->addLayout(soundRow(words, field));
     }
     return card;
 }
 
-QWidget* SettingsView::numberRow(const SettingsWords::Row& words, std::vector<double> choices,
+QLayout* SettingsView::numberRow(const SettingsWords::Row& words, std::vector<double> choices,
                                  double wumble::WumbleSettings::*field) {
     const double current = settings().*field;
     if (std::ranges::find(choices, current) == choices.end()) {
@@ -113,7 +113,7 @@ QWidget* SettingsView::numberRow(const SettingsWords::Row& words, std::vector<do
 }
 
 /// Told as a time, and kept as so many stretches between quick breaks.
-QWidget* SettingsView::longEveryRow() {
+QLayout* SettingsView::longEveryRow() {
     constexpr auto& counts = wumble::WumbleSettings::longBreakEveryChoices;
     auto* made = new Segments;
     const auto lengths = [this] {
@@ -138,7 +138,7 @@ QWidget* SettingsView::longEveryRow() {
     return row(SettingsWords::longEvery, made);
 }
 
-QWidget* SettingsView::nudgesRow() {
+QLayout* SettingsView::nudgesRow() {
     auto* made = new Segments;
     made->setChoices({QStringLiteral("None"), QStringLiteral("1"), QStringLiteral("2")});
     made->chosen = [this](int place) {
@@ -150,7 +150,7 @@ QWidget* SettingsView::nudgesRow() {
     return row(SettingsWords::nudges, made);
 }
 
-QWidget* SettingsView::appearanceRow() {
+QLayout* SettingsView::appearanceRow() {
     auto* made = new Segments;
     made->setChoices({QStringLiteral("System"), QStringLiteral("Light"), QStringLiteral("Dark")});
     made->chosen = [this](int place) {
@@ -162,7 +162,7 @@ QWidget* SettingsView::appearanceRow() {
     return row(SettingsWords::appearance, made);
 }
 
-QWidget* SettingsView::soundRow(const SettingsWords::Row& words, bool wumble::WumbleSettings::*field) {
+QLayout* SettingsView::soundRow(const SettingsWords::Row& words, bool wumble::WumbleSettings::*field) {
     auto* made = new StickerSwitch(text(words.title));
     QObject::connect(made, &QAbstractButton::clicked, this, [this, field](bool on) {
         model_.update([&](wumble::WumbleSettings& changed) { changed.*field = on; });
@@ -171,7 +171,7 @@ QWidget* SettingsView::soundRow(const SettingsWords::Row& words, bool wumble::Wu
     return row(words, made);
 }
 
-QWidget* SettingsView::volumeRow() {
+QLayout* SettingsView::volumeRow() {
     auto* made = new StickerSlider(text(SettingsWords::volume.title));
     made->setRange(0, sliderSteps);
     made->setMinimumWidth(180);
@@ -188,20 +188,18 @@ QWidget* SettingsView::volumeRow() {
     return row(SettingsWords::volume, made);
 }
 
-QWidget* SettingsView::loginRow() {
+QLayout* SettingsView::loginRow() {
     auto* made = new StickerSwitch(text(SettingsWords::login.title));
     QObject::connect(made, &QAbstractButton::clicked, this, [this](bool on) {
         model_.setOpenAtLogin(on);
         refresh();
     });
     follow([this, made] { made->setChecked(loginItem_->isEnabled()); });
-    auto* both = new QWidget;
-    auto* column = new QVBoxLayout(both);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(row(SettingsWords::login, made));
+    auto* column = new QVBoxLayout;
+    column->addLayout(row(SettingsWords::login, made));
     loginError_ = new TextBlock({}, {.token = TypeToken::callout, .mostLines = 4, .weight = QFont::DemiBold});
     column->addWidget(loginError_);
-    return both;
+    return column;
 }
 
 void SettingsView::follow(std::function<void()> refresh) { controls_.push_back(std::move(refresh)); }

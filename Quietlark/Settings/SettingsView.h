@@ -7,6 +7,8 @@
 #include <functional>
 #include <vector>
 
+class QLayout;
+
 namespace quietlark {
 
 class CrewCard;
@@ -28,14 +30,14 @@ private:
     QWidget* general();
 
     /// A row of choices of a number; what the settings have is among them.
-    QWidget* numberRow(const SettingsWords::Row& words, std::vector<double> choices,
+    QLayout* numberRow(const SettingsWords::Row& words, std::vector<double> choices,
                        double wumble::WumbleSettings::*field);
-    QWidget* longEveryRow();
-    QWidget* nudgesRow();
-    QWidget* appearanceRow();
-    QWidget* soundRow(const SettingsWords::Row& words, bool wumble::WumbleSettings::*field);
-    QWidget* volumeRow();
-    QWidget* loginRow();
+    QLayout* longEveryRow();
+    QLayout* nudgesRow();
+    QLayout* appearanceRow();
+    QLayout* soundRow(const SettingsWords::Row& words, bool wumble::WumbleSettings::*field);
+    QLayout* volumeRow();
+    QLayout* loginRow();
     void follow(std::function<void()> refresh);
     void refresh();
 

@@ -32,7 +32,7 @@ template <class Layout> Layout* bare(QWidget* widget, int spacing = 0) {
     return layout;
 }
 
-QWidget* detailRow(const WelcomeWords::Row& row, QWidget* control) {
+QLayout* detailRow(const WelcomeWords::Row& row, QWidget* control) {
     return paperRow(row.title, row.detail, control);
 }
 
@@ -90,7 +90,11 @@ QWidget* WelcomeView::rhythmCard() {
     fold_ = new MenuRow(text(WelcomeWords::customize));
     fold_->setContentsMargins(0, 0, 0, 0);
     QObject::connect(fold_, &QAbstractButton::clicked, this, [this] { customize(!customizing_); });
-    column->addWidget(fold_);
+    auto* fold = new QHBoxLayout; // its words stand below the others
+    fold->addSpacing(-MenuRow::sidePadding);
+    fold->addWidget(fold_);
+    fold->addSpacing(-MenuRow::sidePadding);
+    column->addLayout(fold);
     details_ = details();
     column->addWidget(details_);
     column->addWidget(
@@ -115,13 +119,13 @@ QWidget* WelcomeView::details() {
     auto* rows = new QWidget;
     auto* column = bare<QVBoxLayout>(rows, 10);
     const WelcomeRhythm& now = form_.rhythm();
-    column->addWidget(
+    column->addLayout(
         detailRow(WelcomeWords::quickLength, choices(form_.quickLengths(), durations(form_.quickLengths()),
                                                      now.quickLength, &WelcomeForm::chooseQuickLength)));
-    column->addWidget(
+    column->addLayout(
         detailRow(WelcomeWords::longLength, choices(form_.longLengths(), durations(form_.longLengths()),
                                                     now.longLength, &WelcomeForm::chooseLongLength)));
-    column->addWidget(detailRow(WelcomeWords::nudges, nudges()));
+    column->addLayout(detailRow(WelcomeWords::nudges, nudges()));
     return rows;
 }
 
@@ -153,7 +157,7 @@ QWidget* WelcomeView::loginCard() {
     login_ = new StickerSwitch(text(WelcomeWords::login));
     login_->setChecked(loginItem_->isEnabled());
     QObject::connect(login_, &QAbstractButton::clicked, this, [this](bool on) { switchLogin(on); });
-    card->column()->addWidget(paperRow(WelcomeWords::login, WelcomeWords::loginDetail, login_));
+    card->column()->addLayout(paperRow(WelcomeWords::login, WelcomeWords::loginDetail, login_));
     loginError_ = new TextBlock({}, {.token = TypeToken::callout, .mostLines = 4, .weight = QFont::DemiBold});
     card->column()->addWidget(loginError_);
     return card;

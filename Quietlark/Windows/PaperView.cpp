@@ -36,10 +36,8 @@ void PaperView::paintEvent(QPaintEvent*) {
     drawStickerBackground(painter, rect(), appearanceOf(*this));
 }
 
-QWidget* paperRow(std::string_view title, std::string_view detail, QWidget* control) {
-    auto* whole = new QWidget;
-    auto* layout = new QHBoxLayout(whole);
-    layout->setContentsMargins(0, 0, 0, 0);
+QLayout* paperRow(std::string_view title, std::string_view detail, QWidget* control) {
+    auto* layout = new QHBoxLayout;
     layout->setSpacing(12);
     auto* said = new QVBoxLayout;
     said->setSpacing(1);
@@ -53,7 +51,8 @@ QWidget* paperRow(std::string_view title, std::string_view detail, QWidget* cont
     layout->addLayout(said, 1);
     control->setAccessibleName(text(title));
     layout->addWidget(control);
-    return whole;
+    layout->addSpacing(-control->contentsMargins().right());
+    return layout;
 }
 
 } // namespace quietlark

@@ -5,6 +5,8 @@
 #include <functional>
 #include <string_view>
 
+class QLayout;
+
 namespace quietlark {
 
 /// What fills one of the program's windows: paper with cards one below the other.
@@ -26,7 +28,7 @@ private:
 };
 
 /// One line of a card: what it is, more about it where there is more to say, and the control at the end, which takes its
-/// name from it.
-QWidget* paperRow(std::string_view title, std::string_view detail, QWidget* control);
+/// name from it. The face of the control ends where the line does, and its own margin lies beyond.
+QLayout* paperRow(std::string_view title, std::string_view detail, QWidget* control);
 
 } // namespace quietlark

@@ -14,7 +14,6 @@ namespace quietlark {
 
 namespace {
 
-constexpr double sidePadding = 10;
 constexpr double air = 8; ///< above and below the words
 constexpr double detailGap = 1;
 constexpr double symbolGap = 10;

@@ -10,6 +10,9 @@ namespace quietlark {
 /// A line of the popover to press: a symbol, words, and at its end a remark or a mark that more unfolds.
 class MenuRow : public PressControl {
 public:
+    /// Between the edge of the row and its words, in points.
+    static constexpr int sidePadding = 10;
+
     explicit MenuRow(const QString& text, QWidget* parent = nullptr);
 
     void setSymbol(Symbol symbol);

@@ -29,6 +29,7 @@ StickerSlider::StickerSlider(const QString& name, QWidget* parent) : QAbstractSl
     setAccessibleName(name);
     setFocusPolicy(Qt::StrongFocus);
     setOrientation(Qt::Horizontal);
+    setContentsMargins(static_cast<int>(side), 0, static_cast<int>(side), 0);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
