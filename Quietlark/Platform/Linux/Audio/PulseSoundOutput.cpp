@@ -38,6 +38,7 @@ struct PulseSoundOutput::Sound {
     PulseSoundOutput& output;
     std::vector<std::int16_t> samples;
     pa_stream* stream = nullptr;
+    pa_operation* draining = nullptr;
     pa_time_event* deadline = nullptr;
 };
 
@@ -117,12 +118,11 @@ void PulseSoundOutput::begin(Sound& sound) {
                 pa_stream_write(stream, begun.samples.data(), begun.samples.size() * sizeof(std::int16_t),
                                 nullptr, 0, PA_SEEK_RELATIVE);
                 const auto drained = [](pa_stream*, int, void* ended) {
-                    const Sound& sounded = *static_cast<Sound*>(ended);
+                    Sound& sounded = *static_cast<Sound*>(ended);
+                    pa_operation_unref(std::exchange(sounded.draining, nullptr));
                     sounded.output.end(sounded);
                 };
-                if (pa_operation* drain = pa_stream_drain(stream, drained, data)) {
-                    pa_operation_unref(drain);
-                }
+                begun.draining = pa_stream_drain(stream, drained, data);
             } else if (!PA_STREAM_IS_GOOD(pa_stream_get_state(stream))) {
                 begun.output.end(begun);
             }
@@ -152,6 +152,10 @@ void PulseSoundOutput::setDeadline(Sound& sound, std::uint64_t microseconds) {
 void PulseSoundOutput::close(const Sound& sound) {
     if (sound.deadline != nullptr) {
         pa_glib_mainloop_get_api(mainLoop_)->time_free(sound.deadline);
+    }
+    if (sound.draining != nullptr) {
+        pa_operation_cancel(sound.draining);
+        pa_operation_unref(sound.draining);
     }
     if (sound.stream != nullptr) {
         pa_stream_set_state_callback(sound.stream, nullptr, nullptr);
