@@ -28,8 +28,7 @@ protected:
         manager = start({"openbox", "--startup", "echo started"});
         manager->readLine();
         editor = start({"xterm", "-T", "Editor", "-geometry", "60x10+300+500", "-e", "cat"});
-        ASSERT_TRUE(comes("Editor"));
-        server->run({"xdotool", "search", "--name", "^Editor$", "windowactivate", "--sync"});
+        ASSERT_TRUE(comesToTheFront("Editor"));
     }
 
     /// A program of the desktop, in the same home.
@@ -45,6 +44,14 @@ protected:
     }
     bool goes(const std::string& window) const {
         return spinUntil([&] { return !isUp(window); }, 20);
+    }
+    /// Whether the window came, stands where the window manager wants it, and has the keys.
+    bool comesToTheFront(const std::string& window) const {
+        if (!comes(window)) {
+            return false;
+        }
+        server->run({"xdotool", "search", "--name", "^" + window + "$", "windowactivate", "--sync"});
+        return true;
     }
     void clickAt(int x, int y, const char* button = "1") const {
         server->run({"xdotool", "mousemove", std::to_string(x), std::to_string(y), "click", button});
