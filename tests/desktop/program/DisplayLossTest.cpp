@@ -1,4 +1,5 @@
 #include "tests/desktop/program/ProgramDesktop.h"
+#include "tests/lab/ScreenWindows.h"
 #include "tests/lab/Spin.h"
 
 namespace quietlark::lab {
@@ -11,9 +12,8 @@ TEST_F(DisplayLossTest, whenTheDisplayGoesAwayTheProgramEndsAndHasSaved) {
     const auto program = home->start();
     const auto engine = home->data() / "engine.json";
     ASSERT_TRUE(spinUntil([&] { return std::filesystem::exists(home->data() / "wumble.json"); }));
-    ASSERT_TRUE(spinUntil([&] {
-        return !server->run({"xdotool", "search", "--name", "^toast$"}).empty();
-    })) << "it is on the screen";
+    ASSERT_TRUE(spinUntil([&] { return windowPlace(*server, "toast").has_value(); }))
+        << "it is on the screen";
     std::filesystem::remove(engine);
     server->kill();
     EXPECT_TRUE(program->wait().has_value());

@@ -23,11 +23,8 @@ protected:
     std::unique_ptr<LabProcess> open(const std::string& name, const std::string& geometry) const {
         auto terminal = start({"xterm", "-T", name, "-geometry", geometry, "-e", "cat"});
         EXPECT_TRUE(comes(name));
-        activate(name);
+        bringToFront(*server, name);
         return terminal;
-    }
-    void activate(const std::string& name) const {
-        server->run({"xdotool", "search", "--name", "^" + name + "$", "windowactivate", "--sync"});
     }
     bool getsKeyboard(const std::string& name) const {
         return spinUntil(
@@ -113,7 +110,7 @@ TEST_F(NotesOnScreenTest, nudgesTakeTurnsBelowAMessageAndLeaveTheClicksToTheWork
     EXPECT_EQ(eye.height, 146 + 2 * margin);
     click(*server, eye.x + margin + 230, eye.y + margin + 75);
     EXPECT_TRUE(getsKeyboard("Below"));
-    activate("Editor");
+    bringToFront(*server, "Editor");
     point(message.x + 200, message.y + 60);
 
     const auto hangs = [&] { return placeOf("nudge").value_or(eye).y == 0; };

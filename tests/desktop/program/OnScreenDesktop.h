@@ -52,7 +52,7 @@ protected:
         auto editor = start({"xterm", "-T", "Editor", "-maximized", "-e",
                              "cat > '" + (home->home() / "typed").string() + "'"});
         EXPECT_TRUE(comes("Editor"));
-        server->run({"xdotool", "search", "--name", "^Editor$", "windowactivate", "--sync"});
+        bringToFront(*server, "Editor");
         return editor;
     }
     std::string focusedWindow() const { return server->run({"xdotool", "getwindowfocus", "getwindowname"}); }

@@ -1,4 +1,5 @@
 #include "tests/desktop/program/ProgramDesktop.h"
+#include "tests/lab/ScreenWindows.h"
 #include "tests/lab/Spin.h"
 
 #include <chrono>
@@ -44,14 +45,13 @@ TEST_F(ShortDayTest, aDueBreakWaitsForTheTypingToStopAndBeginsWithItsSound) {
 
 TEST_F(ShortDayTest, thePetInTheWelcomeSoundsWhenItIsTouched) {
     const auto program = home->start(); // of a person who was never welcomed
-    std::string welcome;
+    std::optional<WindowPlace> welcome;
     ASSERT_TRUE(spinUntil([&] {
-        welcome = server->run({"xdotool", "search", "--onlyvisible", "--name", "Welcome to Quietlark"});
-        return !welcome.empty();
+        welcome = windowPlace(*server, "Welcome to Quietlark");
+        return welcome.has_value();
     })) << home->errors();
-    welcome.resize(welcome.find('\n'));
     EXPECT_TRUE(spinUntil([&] {
-        server->run({"xdotool", "mousemove", "--window", welcome, "95", "125", "click", "1"});
+        click(*server, welcome->x + 95, welcome->y + 125);
         return !streams().empty();
     }));
 }

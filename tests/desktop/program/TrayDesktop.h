@@ -50,7 +50,7 @@ protected:
         if (!comes(window)) {
             return false;
         }
-        server->run({"xdotool", "search", "--name", "^" + window + "$", "windowactivate", "--sync"});
+        bringToFront(*server, window);
         return true;
     }
     void clickAt(int x, int y, const char* button = "1") const {
