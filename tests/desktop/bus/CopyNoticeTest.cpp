@@ -2,6 +2,8 @@
 #include "tests/desktop/bus/BusDesktop.h"
 #include "tests/lab/MateSession.h"
 
+#include <QElapsedTimer>
+
 namespace quietlark::test {
 
 namespace {
@@ -55,7 +57,7 @@ TEST_F(CopyNotice, givesUpAfterASecondWhereTheBusStandsStill) {
     timer.start();
     other->postAnotherCopyStarted(folder);
     services.copyNotice->postAnotherCopyStarted(folder);
-    EXPECT_LT(timer.elapsed(), 2500);
+    EXPECT_LT(timer.elapsed(), 5000);
     session.thaw();
 }
 

@@ -130,7 +130,7 @@ TEST_F(SessionWatch, nothingWaitsForAServiceOrABusThatStandsStill) {
     services.sleepAssertion->hold("Quietlark long break");
     services.sleepAssertion->release();
     runAWhile();
-    EXPECT_LT(longestRound, 5);
+    EXPECT_TRUE(times.areBounded());
     session.thaw();
 }
 
@@ -145,8 +145,8 @@ TEST_F(SessionWatch, withoutAnyBusEverythingIsUnknownAndNothingFails) {
     services.copyNotice->observeSessionEnd([] {});
     services.sleepAssertion->hold("Quietlark long break");
     services.sleepAssertion->release();
-    refresh();
-    EXPECT_LT(longestRound, 5);
+    runAWhile();
+    EXPECT_TRUE(times.areBounded());
 }
 
 } // namespace quietlark::test

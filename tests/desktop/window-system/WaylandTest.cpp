@@ -1,6 +1,6 @@
 #include "Quietlark/Platform/Linux/Wayland/WaylandInputClock.h"
 #include "Quietlark/Platform/Linux/Wayland/WaylandWindowSystem.h"
-#include "tests/desktop/window-system/Moments.h"
+#include "tests/lab/Moments.h"
 #include "tests/lab/Spin.h"
 #include "tests/lab/SwayCompositor.h"
 
