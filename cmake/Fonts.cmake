@@ -18,9 +18,9 @@ function(embed_fonts target)
   if(NOT present STREQUAL wanted)
     execute_process(COMMAND ${made_by} ${folder} ${data} RESULT_VARIABLE failure OUTPUT_QUIET ERROR_VARIABLE why)
     if(failure)
-      message(NOTICE "Quietlark's typefaces couldn't be had (npm and the Python packages fonttools and brotli fetch "
-        "them); this build uses the system's sans.")
       file(WRITE ${folder}/failure.log "${why}")
+      message(NOTICE "Quietlark's typefaces couldn't be had (npm and the Python packages fonttools and brotli fetch "
+        "them); this build uses the system's sans. The reason is in ${folder}/failure.log.")
       file(CONFIGURE OUTPUT ${data} CONTENT "#include \"Quietlark/Theme/EmbeddedFonts.h\"\n
 std::vector<std::string_view> quietlark::embeddedFonts() { return {}; }\n")
     else()
