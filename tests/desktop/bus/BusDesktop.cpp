@@ -33,7 +33,7 @@ void BusTest::makeServices(const lab::PrivateBus* system) {
 
 void BusTest::refresh() {
     clock.seconds += 1;
-    times.measure([this] {
+    waits.during([this] {
         services.session->refresh(clock.seconds);
         services.sleepHolders->refresh(clock.seconds);
         services.session->state();

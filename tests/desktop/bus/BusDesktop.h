@@ -2,9 +2,9 @@
 
 #include "Quietlark/Platform/Linux/DBus/BusServices.h"
 #include "tests/lab/LabProcess.h"
-#include "tests/lab/Moments.h"
 #include "tests/lab/PrivateBus.h"
 #include "tests/lab/Spin.h"
+#include "tests/lab/Waits.h"
 
 #include <QByteArray>
 #include <gtest/gtest.h>
@@ -51,8 +51,8 @@ protected:
     /// The services on `session` and, where given, on a system bus.
     void makeServices(const lab::PrivateBus* system = nullptr);
 
-    /// Refreshes as the program does, each time a second of its clock later, and reads everything.
-    /// How long that took is in `times`.
+    /// Refreshes as the program does, each time a second of its clock later, and reads everything. Fails
+    /// where one such round takes as long as a person would notice.
     void refresh();
 
     /// Refreshes and runs the event loop until the condition holds.
@@ -66,7 +66,7 @@ protected:
     PlainIdentity identity;
     std::optional<bool> sampledDisplays;
     BusServices services;
-    RoundTimes times;
+    lab::Waits waits; ///< of a round
 };
 
 } // namespace quietlark::test

@@ -1,8 +1,8 @@
 #include "Quietlark/Platform/Linux/Audio/PulseMicrophone.h"
 #include "tests/desktop/media/NamedByProcess.h"
-#include "tests/lab/Moments.h"
 #include "tests/lab/SoundLab.h"
 #include "tests/lab/Spin.h"
+#include "tests/lab/Waits.h"
 
 #include <algorithm>
 #include <csignal>
@@ -22,7 +22,7 @@ protected:
 
     /// A refresh for every look: time goes on by a second at each.
     void refresh() {
-        times_.measure([this] { microphone_.refresh(uptime_ += 1); });
+        waits_.during([this] { microphone_.refresh(uptime_ += 1); });
     }
     bool eventually(const std::function<bool()>& condition) {
         return spinUntil([&] {
@@ -41,7 +41,7 @@ protected:
     NamedByProcess identity_;
     PulseMicrophone microphone_{identity_};
     double uptime_ = 0;
-    test::RoundTimes times_;
+    Waits waits_; ///< of a refresh
 };
 
 const std::vector<std::string> recordsMicrophone{"parecord", "-d", "virtmic", "--raw", "/dev/null"};
@@ -95,7 +95,7 @@ TEST_F(MicrophoneTest, aServerThatEndsIsUnknownAndPickedUpAgain) {
     ASSERT_TRUE(lab_.start());
     auto recorder = lab_.run(recordsMicrophone);
     EXPECT_TRUE(eventually([&] { return hears(*recorder); }));
-    EXPECT_TRUE(times_.areBounded());
+    waits_.expectShort();
 }
 
 TEST_F(MicrophoneTest, aFrozenServerHoldsNothingUp) {
@@ -109,7 +109,7 @@ TEST_F(MicrophoneTest, aFrozenServerHoldsNothingUp) {
     lab_.signal(SIGSTOP);
     EXPECT_TRUE(eventually([&, since = uptime_] { return uptime_ > since + 30; }));
     lab_.signal(SIGCONT);
-    EXPECT_TRUE(times_.areBounded());
+    waits_.expectShort();
 }
 
 } // namespace quietlark::lab

@@ -1,8 +1,8 @@
 #include "Quietlark/Platform/Linux/Video/VideoServices.h"
 #include "tests/desktop/media/NamedByProcess.h"
-#include "tests/lab/Moments.h"
 #include "tests/lab/SoundLab.h"
 #include "tests/lab/Spin.h"
+#include "tests/lab/Waits.h"
 
 #include <csignal>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ protected:
 
     bool eventually(const std::function<bool()>& condition) {
         return spinUntil([&] {
-            times_.measure([this] {
+            waits_.during([this] {
                 services_.screenWatch->refresh(uptime_ += 1);
                 services_.camera->refresh(uptime_);
             });
@@ -49,7 +49,7 @@ protected:
     wumble::test::TemporaryFolder devices_;
     VideoServices services_ = makeVideoServices(identity_, devices_.path());
     double uptime_ = 0;
-    test::RoundTimes times_;
+    Waits waits_; ///< of a refresh
 };
 
 constexpr auto nobody = "{\"eventMessage\":\"Active activity attributions changed to []\"}\n";
@@ -110,7 +110,7 @@ TEST_F(ScreenCastTest, aServerThatComesGoesAndFreezesHoldsNothingUp) {
     EXPECT_TRUE(eventually([&] { return !isKnown(); }));
     ASSERT_TRUE(lab_.start());
     EXPECT_TRUE(eventually([&] { return isKnown(); }));
-    EXPECT_TRUE(times_.areBounded());
+    waits_.expectShort();
 }
 
 TEST_F(ScreenCastTest, nothingIsCalledAfterTheRunnerWasTerminated) {

@@ -2,7 +2,7 @@
 
 #include "Quietlark/Platform/Linux/X11/X11InputClock.h"
 #include "Quietlark/Platform/Linux/X11/X11WindowSystem.h"
-#include "tests/lab/Moments.h"
+#include "tests/desktop/window-system/Moments.h"
 #include "tests/lab/Spin.h"
 #include "tests/lab/XServer.h"
 
