@@ -26,6 +26,9 @@ TEST_F(X11Windows, theFrontWindowFollowsTheFocusAndNamesItsProgram) {
     EXPECT_TRUE(until([&] { return windows->windows() == std::vector{beta}; }));
     windows->activate(alpha);
     EXPECT_TRUE(until([this] { return frontClass() == "Beta"; })) << "a window that is gone takes nothing";
+
+    clients.clear();
+    EXPECT_TRUE(until([this] { return !windows->frontWindow(); })) << "though openbox goes on naming it";
 }
 
 TEST_F(X11Windows, onlyWindowsToBeSeenHaveRectangles) {

@@ -217,6 +217,7 @@ void PulseMicrophone::told(const pa_source_output_info& stream) {
                                  .isPaused = stream.corked != 0,
                                  .isLevelMeter = isLevelMeter(stream),
                                  .takesWhatIsPlayed = isSetTo(stream.proplist, "stream.capture.sink", "true"),
+                                 .isPartOfFilter = text(stream.proplist, "node.link-group").has_value(),
                                  .program = program(stream.proplist)};
     if (assignIfChanged(recordings_.streams, stream.index, record)) {
         findApps();

@@ -15,6 +15,10 @@ AppHints hints(const SoundClient& stream, const SoundClient& connection) {
             .name = stream.name ? stream.name : connection.name};
 }
 
+bool isTheServersOwn(const RecordingStream& stream, bool hasClient) {
+    return stream.isPartOfFilter || (!hasClient && stream.program == SoundClient{});
+}
+
 } // namespace
 
 std::vector<AppHints> Recordings::listening(int ownProcess) const {
@@ -23,10 +27,11 @@ std::vector<AppHints> Recordings::listening(int ownProcess) const {
         const auto source = isMonitor.find(stream.source);
         const bool hearsAMicrophone =
             source != isMonitor.end() && !source->second && !stream.takesWhatIsPlayed;
-        if (stream.isPaused || stream.isLevelMeter || !hearsAMicrophone) {
+        const auto client = clients.find(stream.client);
+        if (stream.isPaused || stream.isLevelMeter || !hearsAMicrophone ||
+            isTheServersOwn(stream, client != clients.end())) {
             continue;
         }
-        const auto client = clients.find(stream.client);
         AppHints program = hints(stream.program, client == clients.end() ? SoundClient{} : client->second);
         if (program.pid != ownProcess) {
             found.push_back(std::move(program));
