@@ -1,5 +1,6 @@
 #include "Quietlark/Platform/Linux/Proc/LinuxAppIdentity.h"
 
+#include "Quietlark/Platform/Linux/Proc/ReadableText.h"
 #include "Quietlark/Platform/Linux/Proc/WellKnownApps.h"
 #include "WumbleCore/Foundation/Text.h"
 
@@ -20,18 +21,53 @@ bool isInterpreter(const std::string& program) {
     return std::ranges::any_of(names, [&](std::string_view name) { return program.starts_with(name); });
 }
 
-std::string programName(const Processes& processes, int pid, const std::string& executable) {
-    std::string program = fileName(executable);
-    if (!isInterpreter(program)) {
-        return program;
-    }
-    const auto words = processes.commandLine(pid);
+/// The first word that is no option; after some options comes what belongs to them.
+std::string scriptOf(const std::vector<std::string>& words) {
+    static constexpr std::array<std::string_view, 3> withValue{"-cp", "-classpath", "-W"};
     for (std::size_t index = 1; index < words.size(); ++index) {
-        if (!words[index].empty() && words[index].front() != '-') {
-            return fileName(words[index]);
+        const std::string& word = words[index];
+        if (word == "-c" || word == "-e") {
+            return {};
+        }
+        if (std::ranges::find(withValue, word) != withValue.end()) {
+            ++index;
+        } else if (!word.empty() && word.front() != '-') {
+            return word;
         }
     }
-    return program;
+    return {};
+}
+
+/// Steam calls the windows of all its Windows games by a number.
+bool saysNothingOfAName(std::string_view windowClass) { return windowClass.starts_with("steam_app_"); }
+
+/// The folder that a library of games keeps this one in bears its title.
+std::string titleInLibrary(const std::string& path) {
+    constexpr std::string_view library = "/steamapps/common/";
+    const std::size_t found = wumble::lowerCased(path).find(library);
+    if (found == std::string::npos) {
+        return {};
+    }
+    const std::size_t begin = found + library.size();
+    const std::string title = path.substr(begin, path.find('/', begin) - begin);
+    const bool isLayer = title.starts_with("Proton") || title.starts_with("SteamLinuxRuntime");
+    return isLayer ? "" : title;
+}
+
+/// Browsers' engines name their recordings so.
+std::string withoutDirection(const std::string& streamName) {
+    return std::string(wumble::withoutSuffix(streamName, " input"));
+}
+
+void addOnce(std::vector<std::string>& texts, const std::string& text) {
+    if (!text.empty() && std::ranges::find(texts, text) == texts.end()) {
+        texts.push_back(text);
+    }
+}
+
+std::string firstOf(std::initializer_list<std::string> texts) {
+    const auto* const found = std::ranges::find_if(texts, [](const auto& text) { return !text.empty(); });
+    return found == texts.end() ? "" : *found;
 }
 
 } // namespace
@@ -41,76 +77,90 @@ struct LinuxAppIdentity::Clues {
     std::string appID;
     std::string sandboxID;
     std::string windowClass;
-    std::string executable; ///< a path
-    std::string program;    ///< its name, or that of the script that it runs
+    std::string executable; ///< a path, or that of the script
+    std::string program;    ///< its name, or that of the script or the Windows program that it runs
     std::string shown;      ///< what it calls itself
-    std::string process;
+    std::string title;      ///< of a game, by the place of it
 };
 
 LinuxAppIdentity::Clues LinuxAppIdentity::cluesOf(const AppHints& hints) const {
     Clues clues;
-    clues.appID = wumble::withoutSuffix(hints.appID.value_or(""), ".desktop");
-    clues.windowClass = hints.windowClass.value_or("");
-    clues.shown = hints.name.value_or("");
+    const std::string appID = readableText(wumble::withoutSuffix(hints.appID.value_or(""), ".desktop"));
+    clues.windowClass = readableText(hints.windowClass.value_or(""));
+    clues.shown = withoutDirection(readableText(hints.name.value_or("")));
     if (hints.pid > 0) {
-        clues.sandboxID = processes_.sandboxID(hints.pid).value_or("");
-        clues.executable = processes_.executable(hints.pid).value_or("");
-        clues.program = programName(processes_, hints.pid, clues.executable);
-        clues.process = processes_.name(hints.pid);
+        lookAtProcess(hints.pid, clues);
+    }
+    // Some name the file that they were started from.
+    if (appID.starts_with('/')) {
+        clues.executable = clues.executable.empty() ? appID : clues.executable;
+        clues.program = clues.program.empty() ? fileName(appID) : clues.program;
+        clues.shown = clues.shown == appID ? fileName(appID) : clues.shown;
+    } else {
+        clues.appID = appID;
     }
     return clues;
 }
 
-const DesktopEntry* LinuxAppIdentity::entryOf(const Clues& clues) {
-    if (const DesktopEntry* entry = entries_.withID(clues.appID)) {
-        return entry;
+void LinuxAppIdentity::lookAtProcess(int pid, Clues& clues) const {
+    const std::string sandboxID = readableText(processes_.sandboxID(pid).value_or(""));
+    // What a launcher starts runs in the launcher's own sandbox.
+    clues.sandboxID = WellKnownApps::isGameLauncher(sandboxID) ? "" : sandboxID;
+    const std::string executable = processes_.executable(pid).value_or("");
+    const std::string file = fileName(executable);
+    if (isInterpreter(file)) {
+        const std::string script = scriptOf(processes_.commandLine(pid));
+        clues.program = readableText(script.empty() ? file : fileName(script));
+        clues.executable = script.starts_with('/') ? script : "";
+        return;
     }
-    if (const DesktopEntry* entry = entries_.withID(clues.sandboxID)) {
-        return entry;
-    }
-    if (const DesktopEntry* entry = entries_.withWindowClass(clues.windowClass)) {
-        return entry;
-    }
-    if (const DesktopEntry* entry = entries_.withExecutable(clues.executable)) {
-        return entry;
-    }
-    return entries_.withExecutable(clues.program);
+    clues.executable = executable;
+    const std::string windowsProgram = processes_.windowsProgram(pid).value_or("");
+    clues.program = readableText(firstOf({fileName(windowsProgram), file, processes_.name(pid)}));
+    clues.title = readableText(firstOf({titleInLibrary(executable), titleInLibrary(windowsProgram)}));
+}
+
+const DesktopEntry* LinuxAppIdentity::entryOf(const Clues& clues) const {
+    const std::initializer_list<const DesktopEntry*> candidates{
+        entries_.withID(clues.appID),
+        entries_.withID(clues.sandboxID),
+        entries_.withExecutable(clues.sandboxID),
+        entries_.withWindowClass(clues.windowClass),
+        entries_.withExecutable(clues.executable),
+        entries_.withExecutable(clues.program),
+        entries_.withWindowClass(clues.appID),
+        entries_.withExecutable(clues.appID),
+        entries_.withInstallationOf(clues.executable),
+    };
+    const auto* const found = std::ranges::find_if(candidates, [](const auto* entry) { return entry; });
+    return found == candidates.end() ? nullptr : *found;
 }
 
 AppRef LinuxAppIdentity::identify(const AppHints& hints) {
+    entries_.readIfChanged();
     const Clues clues = cluesOf(hints);
     const DesktopEntry* entry = entryOf(clues);
     const std::string entryID = entry == nullptr ? "" : entry->id;
 
     AppRef app;
     app.pid = hints.pid;
-    for (const std::string& name : {entry == nullptr ? std::string() : entry->name, clues.shown,
-                                    clues.windowClass, clues.process, clues.program, clues.appID}) {
-        if (app.name.empty()) {
-            app.name = name;
-        }
-    }
+    app.name =
+        firstOf({entry == nullptr ? "" : readableText(entry->name), clues.title, clues.shown,
+                 saysNothingOfAName(clues.windowClass) ? "" : clues.windowClass, clues.program, clues.appID});
+    std::vector<std::string> known;
     for (const std::string& id : {entryID, clues.appID, clues.sandboxID, clues.program, clues.windowClass}) {
         if (!app.bundleID) {
             app.bundleID = WellKnownApps::listedID(id);
         }
-        if (!id.empty()) {
-            app.aliases.push_back(id);
-        }
+        addOnce(known, id);
     }
-    if (!app.bundleID && !app.aliases.empty()) {
-        app.bundleID = app.aliases.front();
+    if (!app.bundleID && !known.empty()) {
+        app.bundleID = known.front();
     }
-    if (!app.name.empty()) {
-        app.aliases.push_back(app.name);
-    }
-    std::vector<std::string> others;
-    for (const std::string& alias : app.aliases) {
-        if (alias != app.bundleID && std::ranges::find(others, alias) == others.end()) {
-            others.push_back(alias);
-        }
-    }
-    app.aliases = std::move(others);
+    addOnce(known, app.name);
+    addOnce(known, clues.shown);
+    std::erase(known, app.bundleID.value_or(""));
+    app.aliases = std::move(known);
     return app;
 }
 

@@ -18,7 +18,8 @@ private:
     struct Clues;
 
     Clues cluesOf(const AppHints& hints) const;
-    const DesktopEntry* entryOf(const Clues& clues);
+    void lookAtProcess(int pid, Clues& clues) const;
+    const DesktopEntry* entryOf(const Clues& clues) const;
 
     const Processes& processes_;
     DesktopEntries& entries_;

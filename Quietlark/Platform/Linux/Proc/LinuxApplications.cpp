@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
+#include <utility>
 
 namespace quietlark {
 
@@ -44,27 +46,19 @@ std::optional<AppRef> LinuxApplications::frontmost() {
     return front_->second;
 }
 
-AppRef LinuxApplications::appOfProcess(int pid) {
-    const std::string executable = processes_.executable(pid).value_or("");
-    const auto known = known_.find(pid);
-    if (known != known_.end() && known->second.executable == executable) {
-        return known->second.app;
-    }
-    return identity_.identify({.pid = pid});
-}
-
 std::vector<AppRef> LinuxApplications::running() {
     std::map<int, Known> seen;
+    std::set<std::pair<std::string, std::string>> listed;
     std::vector<AppRef> apps;
     for (const int pid : processes_.ofThisPerson()) {
-        AppRef app = appOfProcess(pid);
-        const bool isAnotherOfOne = std::ranges::any_of(apps, [&](const AppRef& other) {
-            return other.bundleID == app.bundleID && other.name == app.name;
-        });
-        if (app.bundleID && !isAnotherOfOne) {
+        std::string executable = processes_.executable(pid).value_or("");
+        const auto known = known_.find(pid);
+        const bool isTheSame = known != known_.end() && known->second.executable == executable;
+        AppRef app = isTheSame ? known->second.app : identity_.identify({.pid = pid});
+        if (app.bundleID && listed.emplace(*app.bundleID, app.name).second) {
             apps.push_back(app);
         }
-        seen.emplace(pid, Known{processes_.executable(pid).value_or(""), std::move(app)});
+        seen.emplace(pid, Known{std::move(executable), std::move(app)});
     }
     known_ = std::move(seen);
     return apps;
@@ -73,6 +67,28 @@ std::vector<AppRef> LinuxApplications::running() {
 bool LinuxApplications::isProcessRunning(std::string_view processName) {
     const auto pids = processes_.ofThisPerson();
     return std::ranges::any_of(pids, [&](int pid) { return processes_.name(pid) == processName; });
+}
+
+/// As the rules know them.
+std::vector<std::string> LinuxApplications::categoriesOf(const AppRef& app,
+                                                         const AppInspection& found) const {
+    std::vector<std::string> identifiers = app.aliases;
+    identifiers.insert(identifiers.begin(), app.bundleID.value_or(""));
+    if (std::ranges::any_of(identifiers, WellKnownApps::isGameLauncher)) {
+        return {std::string(categoryPrefix) + "game-store"};
+    }
+    if (std::ranges::any_of(found.paths, WellKnownApps::isLayerOfGames) ||
+        std::ranges::any_of(identifiers, WellKnownApps::isGame)) {
+        return {listedCategory("Game")};
+    }
+    std::vector<std::string> categories;
+    for (const std::string& id : identifiers) {
+        if (const DesktopEntry* entry = entries_.withID(id)) {
+            std::ranges::transform(entry->categories, std::back_inserter(categories), listedCategory);
+            break;
+        }
+    }
+    return categories;
 }
 
 AppInspection LinuxApplications::inspect(const AppRef& app) {
@@ -84,21 +100,7 @@ AppInspection LinuxApplications::inspect(const AppRef& app) {
     if (const auto program = processes_.windowsProgram(app.pid)) {
         inspection.paths.push_back(*program);
     }
-    std::vector<std::string> identifiers = app.aliases;
-    identifiers.insert(identifiers.begin(), app.bundleID.value_or(""));
-    for (const std::string& id : identifiers) {
-        if (WellKnownApps::isGameLauncher(id)) {
-            inspection.categories = {std::string(categoryPrefix) + "game-store"};
-            return inspection;
-        }
-    }
-    for (const std::string& id : identifiers) {
-        if (const DesktopEntry* entry = entries_.withID(id)) {
-            std::ranges::transform(entry->categories, std::back_inserter(inspection.categories),
-                                   listedCategory);
-            break;
-        }
-    }
+    inspection.categories = categoriesOf(app, inspection);
     return inspection;
 }
 

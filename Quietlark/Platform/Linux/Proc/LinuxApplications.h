@@ -30,7 +30,7 @@ private:
         AppRef app;
     };
 
-    AppRef appOfProcess(int pid);
+    std::vector<std::string> categoriesOf(const AppRef& app, const AppInspection& found) const;
 
     WindowSystem& windows_;
     AppIdentity& identity_;

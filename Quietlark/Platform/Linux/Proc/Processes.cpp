@@ -30,6 +30,15 @@ std::optional<std::string> between(const std::string& text, std::string_view bef
     return end == std::string::npos ? std::nullopt : std::optional(text.substr(from, end - from));
 }
 
+/// The names of groups write a dash within an identifier as "\\x2d".
+std::string withoutEscapes(std::string text) {
+    constexpr std::string_view dash = "\\x2d";
+    for (std::size_t at = 0; (at = text.find(dash, at)) != std::string::npos; ++at) {
+        text.replace(at, dash.size(), "-");
+    }
+    return text;
+}
+
 } // namespace
 
 std::vector<int> Processes::ofThisPerson() const {
@@ -78,18 +87,22 @@ std::vector<std::string> Processes::commandLine(int pid) const {
 
 std::optional<std::string> Processes::sandboxID(int pid) const {
     const std::string groups = contents(pid, "cgroup");
-    if (auto flatpak = between(groups, "app-flatpak-", "-")) {
-        return flatpak;
+    if (const auto flatpak = between(groups, "app-flatpak-", "-")) {
+        return withoutEscapes(*flatpak);
     }
-    return between(groups, "snap.", ".");
+    return between(groups, "/snap.", ".");
 }
 
 std::optional<std::string> Processes::windowsProgram(int pid) const {
+    const std::filesystem::path loader(executable(pid).value_or(""));
+    if (!loader.filename().string().starts_with("wine")) {
+        return std::nullopt;
+    }
     for (const std::string& word : commandLine(pid)) {
         if (!wumble::lowerCased(word).ends_with(".exe")) {
             continue;
         }
-        const bool hasDrive = word.size() > 2 && word[1] == ':';
+        const bool hasDrive = word[1] == ':';
         std::string path = hasDrive ? word.substr(2) : word;
         std::ranges::replace(path, '\\', '/');
         return path;
