@@ -47,7 +47,7 @@ protected:
     LinuxAppIdentity identity{processes, entries};
     test::Desktop desktop;
     Platform platform = test::platformOf(desktop);
-    LinuxApplications applications{*platform.windows, identity, processes, entries};
+    LinuxApplications applications{*platform.windows, identity, processes, entries, {}};
 };
 
 TEST_F(ApplicationsTest, aProgramIsKnownByWhateverSaysWhoItIs) {

@@ -121,19 +121,33 @@ void LinuxAppIdentity::lookAtProcess(int pid, Clues& clues) const {
 }
 
 const DesktopEntry* LinuxAppIdentity::entryOf(const Clues& clues) const {
-    const std::initializer_list<const DesktopEntry*> candidates{
-        entries_.withID(clues.appID),
-        entries_.withID(clues.sandboxID),
-        entries_.withExecutable(clues.sandboxID),
-        entries_.withWindowClass(clues.windowClass),
-        entries_.withExecutable(clues.executable),
-        entries_.withExecutable(clues.program),
-        entries_.withWindowClass(clues.appID),
-        entries_.withExecutable(clues.appID),
-        entries_.withInstallationOf(clues.executable),
+    struct Way {
+        const DesktopEntry* (DesktopEntries::*look)(std::string_view) const;
+        std::string Clues::*clue;
     };
-    const auto* const found = std::ranges::find_if(candidates, [](const auto* entry) { return entry; });
-    return found == candidates.end() ? nullptr : *found;
+    static constexpr std::array<Way, 9> ways{{
+        {&DesktopEntries::withID, &Clues::appID},
+        {&DesktopEntries::withID, &Clues::sandboxID},
+        {&DesktopEntries::withExecutable, &Clues::sandboxID},
+        {&DesktopEntries::withWindowClass, &Clues::windowClass},
+        {&DesktopEntries::withExecutable, &Clues::executable},
+        {&DesktopEntries::withExecutable, &Clues::program},
+        {&DesktopEntries::withWindowClass, &Clues::appID},
+        {&DesktopEntries::withExecutable, &Clues::appID},
+        {&DesktopEntries::withInstallationOf, &Clues::executable},
+    }};
+    for (const Way& way : ways) {
+        if (const DesktopEntry* entry = (entries_.*way.look)(clues.*way.clue)) {
+            return entry;
+        }
+    }
+    return nullptr;
+}
+
+bool LinuxAppIdentity::isToldByFile(std::string_view executable) {
+    const std::string file = fileName(executable);
+    return !file.empty() && !isInterpreter(file) && !file.starts_with("wine") &&
+           !executable.starts_with("/app/");
 }
 
 AppRef LinuxAppIdentity::identify(const AppHints& hints) {

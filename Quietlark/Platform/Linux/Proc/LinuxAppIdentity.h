@@ -14,6 +14,10 @@ public:
 
     AppRef identify(const AppHints& hints) override;
 
+    /// Whether all processes of this file are the same program: not where it only runs what others wrote, and not in
+    /// sandboxes, which have files of the same name.
+    static bool isToldByFile(std::string_view executable);
+
 private:
     struct Clues;
 

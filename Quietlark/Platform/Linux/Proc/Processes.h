@@ -32,6 +32,7 @@ public:
     std::optional<std::string> windowsProgram(int pid) const;
 
 private:
+    std::string pathOf(int pid, const char* file) const;
     std::string contents(int pid, const char* file) const;
 
     std::filesystem::path root_;
