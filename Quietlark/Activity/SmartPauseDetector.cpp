@@ -24,7 +24,7 @@ void addOnce(std::vector<std::string>& names, std::string name) {
 }
 
 bool isSameProgram(const AppRef& a, const AppRef& b) {
-    if (a.pid != 0 && a.pid == b.pid) {
+    if ((a.pid != 0 && a.pid == b.pid) || (a.bundleID && a.bundleID == b.bundleID)) {
         return true;
     }
     return !a.name.empty() && !b.name.empty() && (a.name.starts_with(b.name) || b.name.starts_with(a.name));
@@ -71,7 +71,7 @@ SmartPauseDetector::readMicrophone(const wumble::WumbleSettings& settings) const
     if (!apps) {
         return {.inUse = platform_.microphone->physicalMicrophoneRunning()};
     }
-    std::erase_if(*apps, [](const AppRef& app) { return DetectorRules::isAudioPlumbing(app.name); });
+    std::erase_if(*apps, DetectorRules::isAudioPlumbing);
     MicrophoneReading reading;
     for (AppRef& app : *apps) {
         if (!DetectorRules::isDictationTool(app, settings.dictationApps)) {
@@ -179,12 +179,16 @@ std::optional<std::string> SmartPauseDetector::gameName(const AppRef& app) {
     return game;
 }
 
+bool SmartPauseDetector::isPlayback(const SleepHolder& holder) {
+    return wumble::VideoDetection::isPlayback(holder.reason) ||
+           DetectorRules::isVideoPlayer(platform_.applications->inspect(holder.app).categories);
+}
+
 void SmartPauseDetector::readVideo(DetectorStatus& status, const wumble::WumbleSettings& settings,
                                    const std::optional<AppRef>& front) {
     for (const SleepHolder& holder : platform_.sleepHolders->displaySleepHolders()) {
         const AppRef& app = holder.app;
-        if (wumble::VideoDetection::isPlayback(holder.reason) &&
-            !DetectorRules::isIgnoredSleepHolder(app.name, platform_.processName) &&
+        if (isPlayback(holder) && !DetectorRules::isIgnoredSleepHolder(app, platform_.processName) &&
             !DetectorRules::isListed(app, settings.videoExcludedApps) && !gameName(app)) {
             status.videoApp = DetectorRules::shownName(app.name);
             status.videoAppIsFrontmost = front && isSameProgram(app, *front);

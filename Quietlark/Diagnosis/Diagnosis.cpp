@@ -12,6 +12,7 @@
 #include <QLocale>
 #include <QTime>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <string>
@@ -90,7 +91,7 @@ int watch(double seconds, double interval, const std::function<void(const Report
     const double end = observation.uptime() + seconds;
     do {
         tell(observation.look());
-        observation.turn(interval);
+        observation.turn(std::min(interval, end - observation.uptime()));
     } while (observation.uptime() < end);
     return 0;
 }
