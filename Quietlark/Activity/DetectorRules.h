@@ -44,7 +44,7 @@ inline constexpr std::array<NamedApp, 12> recorders{{
     {"io.github.seadve.Kooha", "Kooha"},
     {"com.dec05eba.gpu_screen_recorder", "GPU Screen Recorder"},
     {"com.github.vkohaupt.vokoscreenNG", "vokoscreenNG"},
-    {"xyz.safeworlds.hiit", "Blue Recorder"},
+    {"sa.sy.bluerecorder", "Blue Recorder"},
     {"wf-recorder", "wf-recorder"},
 }};
 

@@ -30,6 +30,11 @@ bool isSameProgram(const AppRef& a, const AppRef& b) {
     return !a.name.empty() && !b.name.empty() && (a.name.starts_with(b.name) || b.name.starts_with(a.name));
 }
 
+bool isPlayback(const SleepHolder& holder, Applications& applications) {
+    return wumble::VideoDetection::isPlayback(holder.reason) ||
+           DetectorRules::isVideoPlayer(applications.inspect(holder.app).categories);
+}
+
 } // namespace
 
 std::optional<wumble::SmartActivity> SmartPauseDetector::poll(const wumble::WumbleSettings& settings,
@@ -179,16 +184,12 @@ std::optional<std::string> SmartPauseDetector::gameName(const AppRef& app) {
     return game;
 }
 
-bool SmartPauseDetector::isPlayback(const SleepHolder& holder) {
-    return wumble::VideoDetection::isPlayback(holder.reason) ||
-           DetectorRules::isVideoPlayer(platform_.applications->inspect(holder.app).categories);
-}
-
 void SmartPauseDetector::readVideo(DetectorStatus& status, const wumble::WumbleSettings& settings,
                                    const std::optional<AppRef>& front) {
     for (const SleepHolder& holder : platform_.sleepHolders->displaySleepHolders()) {
         const AppRef& app = holder.app;
-        if (isPlayback(holder) && !DetectorRules::isIgnoredSleepHolder(app, platform_.processName) &&
+        if (isPlayback(holder, *platform_.applications) &&
+            !DetectorRules::isIgnoredSleepHolder(app, platform_.processName) &&
             !DetectorRules::isListed(app, settings.videoExcludedApps) && !gameName(app)) {
             status.videoApp = DetectorRules::shownName(app.name);
             status.videoAppIsFrontmost = front && isSameProgram(app, *front);

@@ -49,7 +49,6 @@ private:
     std::optional<std::string> captureName(const std::string& id) const;
     std::optional<std::string> captureAppWithoutWord(const DetectorStatus& status,
                                                      const std::optional<AppRef>& front) const;
-    bool isPlayback(const SleepHolder& holder);
     void readVideo(DetectorStatus& status, const wumble::WumbleSettings& settings,
                    const std::optional<AppRef>& front);
     std::optional<std::string> gameName(const AppRef& app);

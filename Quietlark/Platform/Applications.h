@@ -26,8 +26,7 @@ public:
     /// The program of the window that has the keyboard.
     virtual std::optional<AppRef> frontmost() = 0;
 
-    /// One for each program that runs for this person, the identifier of each known as well as may be. Where very many
-    /// run, those started first become known with later calls.
+    /// One for each program that runs for this person, the identifier of each known as well as may be.
     virtual std::vector<AppRef> running() = 0;
 
     /// Whether a process of this person has this name. Exact, upper and lower case told apart.

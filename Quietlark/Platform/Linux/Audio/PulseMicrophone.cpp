@@ -43,6 +43,7 @@ SoundClient program(const pa_proplist* properties) {
     return {.pid = number(text(properties, PA_PROP_APPLICATION_PROCESS_ID)),
             .appID = sandboxID ? sandboxID : text(properties, PA_PROP_APPLICATION_ID),
             .name = text(properties, PA_PROP_APPLICATION_NAME),
+            .binary = text(properties, PA_PROP_APPLICATION_PROCESS_BINARY),
             .isSandboxed = sandboxID.has_value()};
 }
 

@@ -7,12 +7,14 @@ namespace {
 AppHints hints(const SoundClient& stream, const SoundClient& connection) {
     const bool isSandboxed = stream.isSandboxed || connection.isSandboxed;
     const int pid = stream.pid != 0 ? stream.pid : connection.pid;
+    const auto& binary = stream.pid != 0 ? stream.binary : connection.binary;
     // The sandbox's identifier stands on the connection, and is worth more than what the stream says of itself.
     const bool connectionKnowsBest = connection.isSandboxed || !stream.appID;
     return {.pid = isSandboxed ? 0 : pid,
             .appID = connectionKnowsBest ? connection.appID : stream.appID,
             .windowClass = {},
-            .name = stream.name ? stream.name : connection.name};
+            .name = stream.name ? stream.name : connection.name,
+            .binary = isSandboxed ? std::nullopt : binary};
 }
 
 bool isTheServersOwn(const RecordingStream& stream, bool hasClient) {

@@ -15,6 +15,7 @@ struct SoundClient {
     int pid = 0; ///< 0 where it doesn't tell
     std::optional<std::string> appID;
     std::optional<std::string> name;
+    std::optional<std::string> binary;
     bool isSandboxed = false; ///< its own word on its process is then that of another numbering
 
     bool operator==(const SoundClient&) const = default;

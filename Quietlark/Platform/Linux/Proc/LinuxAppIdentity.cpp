@@ -88,8 +88,10 @@ LinuxAppIdentity::Clues LinuxAppIdentity::cluesOf(const AppHints& hints) const {
     const std::string appID = readableText(wumble::withoutSuffix(hints.appID.value_or(""), ".desktop"));
     clues.windowClass = readableText(hints.windowClass.value_or(""));
     clues.shown = withoutDirection(readableText(hints.name.value_or("")));
-    if (hints.pid > 0) {
+    if (isItsProcess(hints)) {
         lookAtProcess(hints.pid, clues);
+    } else {
+        clues.program = readableText(hints.binary.value_or(""));
     }
     // Some name the file that they were started from.
     if (appID.starts_with('/')) {
@@ -100,6 +102,14 @@ LinuxAppIdentity::Clues LinuxAppIdentity::cluesOf(const AppHints& hints) const {
         clues.appID = appID;
     }
     return clues;
+}
+
+bool LinuxAppIdentity::isItsProcess(const AppHints& hints) const {
+    if (hints.pid <= 0 || !hints.binary) {
+        return hints.pid > 0;
+    }
+    const std::string executable = processes_.executable(hints.pid).value_or("");
+    return fileName(executable) == wumble::withoutSuffix(*hints.binary, " (deleted)");
 }
 
 void LinuxAppIdentity::lookAtProcess(int pid, Clues& clues) const {
@@ -157,7 +167,7 @@ AppRef LinuxAppIdentity::identify(const AppHints& hints) {
     const std::string entryID = entry == nullptr ? "" : entry->id;
 
     AppRef app;
-    app.pid = hints.pid;
+    app.pid = isItsProcess(hints) ? hints.pid : 0;
     app.name =
         firstOf({entry == nullptr ? "" : readableText(entry->name), clues.title, clues.shown,
                  saysNothingOfAName(clues.windowClass) ? "" : clues.windowClass, clues.program, clues.appID});

@@ -22,6 +22,7 @@ private:
     struct Clues;
 
     Clues cluesOf(const AppHints& hints) const;
+    bool isItsProcess(const AppHints& hints) const;
     void lookAtProcess(int pid, Clues& clues) const;
     const DesktopEntry* entryOf(const Clues& clues) const;
 

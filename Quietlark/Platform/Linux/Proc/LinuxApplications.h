@@ -10,7 +10,8 @@
 
 namespace quietlark {
 
-/// Programs found by their windows and by the processes of this person.
+/// Programs found by their windows and by the processes of this person. Where very many run, those started first become
+/// known with later questions.
 class LinuxApplications final : public Applications {
 public:
     using Clock = std::chrono::steady_clock;

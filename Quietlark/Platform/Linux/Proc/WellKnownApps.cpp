@@ -18,7 +18,7 @@ struct Listed {
     std::string_view localIDs;
 };
 
-constexpr std::array<Listed, 86> listedApps{{
+constexpr std::array<Listed, 90> listedApps{{
     // Calls and messages
     {"us.zoom.xos", "zoom|us.zoom.zoom|zoom-client"},
     {"com.microsoft.teams2", "teams-for-linux|com.github.ismaelmartinez.teams_for_linux|"
@@ -120,6 +120,10 @@ constexpr std::array<Listed, 86> listedApps{{
                                              "com.blackmagicdesign.resolve"},
     {"com.obsproject.obs-studio", "obs|obs-studio|com.obsproject.studio"},
     {"org.audacityteam.audacity", "audacity"},
+    {"com.dec05eba.gpu_screen_recorder", "gpu-screen-recorder|gpu-screen-recorder-gtk"},
+    {"com.github.vkohaupt.vokoscreenNG", "vokoscreenng"},
+    {"io.github.seadve.Kooha", "kooha"},
+    {"sa.sy.bluerecorder", "blue-recorder|bluerecorder"},
     // Games
     {"com.valvesoftware.steam", "steam|steamwebhelper"},
     // Assistants
