@@ -71,6 +71,8 @@ TEST_F(ApplicationsTest, aProgramIsKnownByWhateverSaysWhoItIs) {
     run(9, "/home/a/steamapps/common/Half a Game/bin/half_linux", "",
         "0::/app-flatpak-com.valvesoftware.Steam-2.scope\n");
     run(10, "/usr/bin/python3.11", std::string("python3\0-c\0import a/b\0", 23));
+    run(11, "/usr/bin/parec");
+    wumble::test::write(folder / "proc/11/status", "Name:\tparec\nPPid:\t3\nUid:\t0\n");
     struct Case {
         const char* what;
         AppHints hints;
@@ -85,6 +87,7 @@ TEST_F(ApplicationsTest, aProgramIsKnownByWhateverSaysWhoItIs) {
         {"its sandbox, listed under another name", {.pid = 2}, "Zoom Workplace", "us.zoom.xos"},
         {"the first program of its command", {.windowClass = "editor"}, "Editor", "editor"},
         {"the script it runs", {.pid = 3}, "meter.py", "meter.py"},
+        {"the script that it records for", {.pid = 11, .name = "parec"}, "meter.py", "meter.py"},
         {"no script at all", {.pid = 10}, "python3.11", "python3.11"},
         {"its command, and not a page of it", {.pid = 5}, "View", "org.example.View"},
         {"its package", {.pid = 6}, "Mail", "mail_mail"},

@@ -38,6 +38,13 @@ std::string scriptOf(const std::vector<std::string>& words) {
     return {};
 }
 
+/// Tools that record for a script rather than for themselves.
+bool recordsForOthers(const std::string& program) {
+    static constexpr std::array<std::string_view, 7> names{"parec",   "pacat", "pw-record", "pw-cat",
+                                                           "arecord", "rec",   "sox"};
+    return std::ranges::find(names, program) != names.end();
+}
+
 /// Steam calls the windows of all its Windows games by a number.
 bool saysNothingOfAName(std::string_view windowClass) { return windowClass.starts_with("steam_app_"); }
 
@@ -89,7 +96,9 @@ LinuxAppIdentity::Clues LinuxAppIdentity::cluesOf(const AppHints& hints) const {
     clues.windowClass = readableText(hints.windowClass.value_or(""));
     clues.shown = withoutDirection(readableText(hints.name.value_or("")));
     if (isItsProcess(hints)) {
-        lookAtProcess(hints.pid, clues);
+        const int pid = whoRuns(hints.pid);
+        clues.shown = pid == hints.pid ? clues.shown : "";
+        lookAtProcess(pid, clues);
     } else {
         clues.program = readableText(hints.binary.value_or(""));
     }
@@ -110,6 +119,16 @@ bool LinuxAppIdentity::isItsProcess(const AppHints& hints) const {
     }
     const std::string executable = processes_.executable(hints.pid).value_or("");
     return fileName(executable) == wumble::withoutSuffix(*hints.binary, " (deleted)");
+}
+
+int LinuxAppIdentity::whoRuns(int pid) const {
+    if (!recordsForOthers(fileName(processes_.executable(pid).value_or("")))) {
+        return pid;
+    }
+    const int parent = processes_.parent(pid).value_or(0);
+    const bool isScript = isInterpreter(fileName(processes_.executable(parent).value_or(""))) &&
+                          !scriptOf(processes_.commandLine(parent)).empty();
+    return isScript ? parent : pid;
 }
 
 void LinuxAppIdentity::lookAtProcess(int pid, Clues& clues) const {

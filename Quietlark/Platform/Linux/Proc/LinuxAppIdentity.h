@@ -23,6 +23,7 @@ private:
 
     Clues cluesOf(const AppHints& hints) const;
     bool isItsProcess(const AppHints& hints) const;
+    int whoRuns(int pid) const; ///< a script, where the process is only its tool
     void lookAtProcess(int pid, Clues& clues) const;
     const DesktopEntry* entryOf(const Clues& clues) const;
 

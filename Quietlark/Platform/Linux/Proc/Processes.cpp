@@ -104,6 +104,10 @@ std::vector<std::string> Processes::commandLine(int pid) const {
     return result;
 }
 
+std::optional<int> Processes::parent(int pid) const {
+    return processNumber(between(contents(pid, "status"), "\nPPid:\t", "\n").value_or(""));
+}
+
 std::optional<std::string> Processes::sandboxID(int pid) const {
     const std::string groups = contents(pid, "cgroup");
     if (const auto flatpak = between(groups, "app-flatpak-", "-")) {

@@ -146,7 +146,7 @@ constexpr std::string_view gameLaunchers =
     "com.playonlinux.playonlinux4|gamehub|com.github.tkashkin.gamehub|steamtinkerlaunch|net.davidotek."
     "pupgui2";
 
-constexpr std::string_view gameNameBeginning = "minecraft";
+constexpr std::array<std::string_view, 2> gameNameBeginnings{"minecraft", "gamescope"};
 
 /// Folders into which launchers put the layers that they run games in.
 constexpr std::array<std::string_view, 5> layerFolders{
@@ -177,7 +177,10 @@ std::optional<std::string> listedID(std::string_view localID) {
 bool isGameLauncher(std::string_view localID) { return isAmong(gameLaunchers, wumble::lowerCased(localID)); }
 
 bool isGame(std::string_view localID) {
-    return wumble::lowerCased(localID).starts_with(gameNameBeginning) && !isGameLauncher(localID);
+    const auto begins = [id = wumble::lowerCased(localID)](std::string_view name) {
+        return id.starts_with(name);
+    };
+    return std::ranges::any_of(gameNameBeginnings, begins) && !isGameLauncher(localID);
 }
 
 bool isLayerOfGames(std::string_view executable) {

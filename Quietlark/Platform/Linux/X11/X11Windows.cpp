@@ -213,9 +213,14 @@ void X11Windows::conclude() {
         front_ = appWindow(active());
     }
     for (const xcb_window_t window : managed()) {
+        // Whoever writes the list may write anything into it.
+        const X11Client* known = client(window);
+        if (!known) {
+            continue;
+        }
         stacking_.push_back(appWindow(window));
-        if (const auto& strut = clients_.at(window).topStrut) {
-            topStruts_.push_back(*strut);
+        if (known->topStrut) {
+            topStruts_.push_back(*known->topStrut);
         }
     }
 }
