@@ -136,6 +136,22 @@ TEST_F(ApplicationsTest, whatIsInstalledLaterIsKnownAndOnesOwnEntryComesFirst) {
     EXPECT_EQ(entries.withID("late")->name, "Mine");
 }
 
+TEST_F(ApplicationsTest, aProgramIsKnownByTheFolderThatItsCommandLeadsTo) {
+    const fs::path home = folder / "opt/surf";
+    fs::create_directories(home / "helpers");
+    fs::create_directories(folder / "bin");
+    wumble::test::write(home / "start", "");
+    fs::create_symlink(home / "start", folder / "bin/surf-stable");
+    install("a-page", "Name=A page\nExec=" + (home / "start").string() + " --app-id=abc\n");
+    install("surf", "Name=Surf\nExec=" + (folder / "bin/surf-stable").string() + " %U\n");
+    run(1, home / "surf-bin");
+    run(2, home / "helpers/audio");
+    run(3, folder / "opt/other");
+    EXPECT_EQ(identity.identify({.pid = 1, .name = "Engine input"}).name, "Surf");
+    EXPECT_EQ(identity.identify({.pid = 2}).bundleID, "surf");
+    EXPECT_EQ(identity.identify({.pid = 3}).name, "other");
+}
+
 TEST_F(ApplicationsTest, whatIsNoEntryIsPassedOver) {
     const fs::path place = folder / "share/applications";
     fs::create_directories(place / "wine/more");
