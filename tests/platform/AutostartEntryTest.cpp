@@ -18,6 +18,7 @@ TEST(AutostartEntry, startsTheVeryProgramWhateverItsPathHoldsAndGoesWithoutATrac
         EXPECT_EQ(entry.set(true), std::nullopt);
         EXPECT_TRUE(entry.isEnabled());
         DesktopEntries entries({folder.path()});
+        entries.readIfChanged();
         ASSERT_NE(entries.withID("com.fernwick.quietlark"), nullptr);
         std::string program = entries.withID("com.fernwick.quietlark")->executable;
         if (const std::size_t doubled = program.find("%%"); doubled != std::string::npos) {
