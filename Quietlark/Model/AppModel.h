@@ -233,6 +233,7 @@ private:
 
     // The day.
     void rollDayIfNeeded();
+    void dropRevealOfAnotherDay(wumble::Date date);
     void announceFinishedRecaps();
 
     void handleAsked(Asked from, const wumble::EngineEvents& events);

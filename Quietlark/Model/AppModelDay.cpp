@@ -21,14 +21,18 @@ void AppModel::rollDayIfNeeded() {
     if (wumble::DayKey::string(now, calendar()) == state_.today.value().day) {
         return;
     }
-    // Yesterday's reveal is past keeping.
-    if (heldReveal_) {
-        closeBreakScreen();
-    }
+    dropRevealOfAnotherDay(now);
     auto today = state_.today.value();
     changeLife([&](wumble::WumbleLife& life) { today = life.today(now, calendar(), services_.random); });
     state_.today = std::move(today);
     greetToday();
+}
+
+/// Yesterday's reveal is past keeping: the new pet isn't shown under it.
+void AppModel::dropRevealOfAnotherDay(wumble::Date date) {
+    if (heldReveal_ && wumble::DayKey::string(date, calendar()) != state_.today.value().day) {
+        closeBreakScreen();
+    }
 }
 
 void AppModel::greetToday() {
