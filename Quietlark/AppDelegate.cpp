@@ -73,6 +73,7 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                  .tray = platform_.tray.get(),
                  .doors = {.openSettings = [this] { settings().present(); },
                            .quit = [] { QCoreApplication::quit(); }}}),
+      timeZone_([this] { model_.setCalendar(systemCalendar()); }),
       termination_([] { QCoreApplication::quit(); }),
       processEnd_([this] { model_.prepareForTermination(); }) {
     model_.openCollage = [this](auto period, auto date) { settings().presentCrew({period, date}); };
@@ -80,7 +81,7 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
     WumbleView::desktopPointer = [this] { return host_->pointer(); };
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeActivation([this] { reopen(); });
-    platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });
+    platform_.copyNotice->observeSessionEnd([this] { model_.save(); }); // a session that ends may yet be kept
     beginWhenTheDesktopHasAnswered(options, loop_.uptime() + longestWaitForAnswers);
 }
 

@@ -11,6 +11,7 @@
 #include "Quietlark/Settings/SettingsWindow.h"
 #include "Quietlark/Surfaces/InstalledSurfaces.h"
 #include "Quietlark/TerminationSignals.h"
+#include "Quietlark/TimeZoneWatch.h"
 #include "Quietlark/Welcome/WelcomeWindow.h"
 
 #include <filesystem>
@@ -49,6 +50,7 @@ private:
     InstalledSurfaces surfaces_;
     std::unique_ptr<WelcomeWindow> welcome_;   ///< made when it is first needed
     std::unique_ptr<SettingsWindow> settings_; ///< made when it is first needed
+    TimeZoneWatch timeZone_;
     TerminationSignals termination_;
     ProcessEnd processEnd_;
 };

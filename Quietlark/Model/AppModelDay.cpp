@@ -2,6 +2,7 @@
 #include "WumbleCore/Life/DayKey.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace quietlark {
@@ -15,6 +16,12 @@ Keys keySet(const std::optional<std::vector<std::string>>& keys) {
 }
 
 } // namespace
+
+void AppModel::setCalendar(wumble::Calendar calendar) {
+    engine_.setCalendar(calendar);
+    services_.calendar = std::move(calendar);
+    sync();
+}
 
 void AppModel::rollDayIfNeeded() {
     const wumble::Date now = state_.now.value();
