@@ -57,6 +57,7 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                          MainLoop& loop, Platform platform)
     : loop_(loop), platform_(std::move(platform)), accessibility_(*platform_.announcer, *platform_.look),
       host_(hostYieldingToLocks(platform_)), sounds_(*platform_.soundOutput),
+      timeZone_([this] { model_.setCalendar(systemCalendar()); }),
       model_(folder, {.mainLoop = loop_,
                       .platform = platform_,
                       .sounds = &sounds_,
@@ -73,7 +74,6 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                  .tray = platform_.tray.get(),
                  .doors = {.openSettings = [this] { settings().present(); },
                            .quit = [] { QCoreApplication::quit(); }}}),
-      timeZone_([this] { model_.setCalendar(systemCalendar()); }),
       termination_([] { QCoreApplication::quit(); }),
       processEnd_([this] { model_.prepareForTermination(); }) {
     model_.openCollage = [this](auto period, auto date) { settings().presentCrew({period, date}); };

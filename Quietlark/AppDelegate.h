@@ -46,11 +46,11 @@ private:
     DesktopAccessibility accessibility_;
     std::unique_ptr<SurfaceHost> host_;
     CuePlayer sounds_;
+    TimeZoneWatch timeZone_; ///< before the model asks for the zone, so that no move is missed
     AppModel model_;
     InstalledSurfaces surfaces_;
     std::unique_ptr<WelcomeWindow> welcome_;   ///< made when it is first needed
     std::unique_ptr<SettingsWindow> settings_; ///< made when it is first needed
-    TimeZoneWatch timeZone_;
     TerminationSignals termination_;
     ProcessEnd processEnd_;
 };

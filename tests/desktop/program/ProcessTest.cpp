@@ -71,6 +71,28 @@ TEST(Process, countsTheDaysOfThePlaceWhereItRuns) {
     EXPECT_EQ(days.size(), 2U);
 }
 
+TEST(Process, followsTheMachineToAnotherTimeZone) {
+    if (outputOf({"unshare", "-m", "sh", "-c", "mount --bind /tmp /tmp && echo mounted"}).empty()) {
+        GTEST_SKIP() << "no mount namespace can be made here";
+    }
+    const ProgramHome home;
+    const fs::path settings = home.home() / "etc"; // in the place of the machine's own
+    const auto moveTo = [&](const std::string& zone) {
+        fs::create_symlink("/usr/share/zoneinfo/" + zone, settings / "new");
+        fs::rename(settings / "new", settings / "localtime");
+    };
+    fs::create_directories(settings);
+    moveTo("Pacific/Pago_Pago");
+    Environment inNoZone = home.environment();
+    inNoZone["TZ"] = "";
+    LabProcess program({"unshare", "-m", "sh", "-c", "mount --bind \"$0\" /etc && exec \"$1\"",
+                        settings.string(), QUIETLARK_PROGRAM},
+                       inNoZone, home.home().string());
+    ASSERT_TRUE(spinUntil([&] { return takesSignals(program) && hasStarted(home); }));
+    moveTo("Pacific/Kiritimati"); // where it is tomorrow at least
+    EXPECT_TRUE(spinUntil([&] { return wumble::Storage(home.data()).loadLife().days.size() == 2; }));
+}
+
 TEST(Process, runsWithoutAnyServiceAndInAFolderThatCannotBeWritten) {
     const ProgramHome home;
     const auto program = home.start({}, {{"WUMBLE_DATA_DIR", "/proc/nowhere"}});
