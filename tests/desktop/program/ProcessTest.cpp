@@ -1,5 +1,6 @@
 #include "WumbleCore/Foundation/Calendar.h"
 #include "tests/desktop/program/ProgramHome.h"
+#include "tests/lab/PrivateBus.h"
 #include "tests/lab/Spin.h"
 
 #include <csignal>
@@ -99,6 +100,21 @@ TEST(Process, runsWithoutAnyServiceAndInAFolderThatCannotBeWritten) {
     ASSERT_TRUE(spinUntil([&] { return takesSignals(*program); }));
     program->signal(SIGTERM);
     EXPECT_EQ(program->wait(), 0);
+}
+
+TEST(Process, livesAndEndsThoughABusStandsStill) {
+    LAB_NEEDS("dbus-daemon");
+    const PrivateBus bus;
+    for (const Environment& standing : {bus.asSystem(), bus.asSession()}) {
+        bus.freeze();
+        const ProgramHome home(standing);
+        home.remember(shortDay());
+        const auto program = home.start();
+        EXPECT_TRUE(spinUntil([&] { return !home.history().empty(); }));
+        program->signal(SIGTERM);
+        EXPECT_EQ(program->wait(), 0);
+        bus.thaw();
+    }
 }
 
 TEST(Process, comesBackRightHoweverOftenItIsKilled) {
