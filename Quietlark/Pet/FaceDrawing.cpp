@@ -1,3 +1,4 @@
+#include "Quietlark/Pet/Art/BodyArt.h"
 #include "Quietlark/Pet/Art/FaceArt.h"
 #include "Quietlark/Pet/Ease.h"
 #include "Quietlark/Pet/Stage.h"
@@ -260,6 +261,16 @@ void drawFace(QPainter& painter, const Stage& stage) {
     }
 }
 
+/// However far the face turns, its cheeks stay on the body.
+QPointF heldOnBody(QPointF cheek, const Stage& stage) {
+    const auto body = extentAt(stage.outline, cheek.y());
+    const double inset = stage.tweaks.cheekInset;
+    if (!body || body->to - body->from < 2 * inset) {
+        return cheek;
+    }
+    return {std::clamp(cheek.x(), body->from + inset, body->to - inset), cheek.y()};
+}
+
 void drawCheeks(QPainter& painter, const Stage& stage) {
     if (!stage.shows(wumble::RevealStep::cheeks)) {
         return;
@@ -267,12 +278,14 @@ void drawCheeks(QPainter& painter, const Stage& stage) {
     constexpr double besideEyes = 16;
     constexpr double belowEyes = 15;
     const bool freckled = stage.day.traits.cheeks == wumble::WumbleCheeks::freckles;
-    const PainterScope scope(painter);
-    painter.setTransform(faceSeat(stage), true);
+    const QTransform face = faceSeat(stage);
     for (const double side : {-1.0, 1.0}) {
-        const PainterScope cheek(painter);
         const double eye = side < 0 ? eyeLeft : eyeRight;
-        painter.translate(eye + side * (besideEyes - stage.tweaks.cheekInset), eyeLevel + belowEyes);
+        const QPointF wanted(eye + side * besideEyes, eyeLevel + belowEyes);
+        const QPointF at = face.inverted().map(heldOnBody(face.map(wanted), stage));
+        const PainterScope scope(painter);
+        painter.setTransform(face, true);
+        painter.translate(at);
         painter.scale(-side, 1);
         painter.fillPath((freckled ? freckleCheek : blushCheek).path(), stage.colours.cheek(freckled));
     }

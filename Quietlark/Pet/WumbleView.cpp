@@ -95,7 +95,11 @@ void WumbleView::setFamilyName(const QString& name) {
 }
 
 void WumbleView::setFollowsPointer(bool follows) { doing_.gazes = follows; }
-void WumbleView::setGaze(std::optional<wumble::Point> gaze) { gaze_ = gaze; }
+
+void WumbleView::setGaze(std::optional<wumble::Point> gaze) {
+    gaze_ = gaze;
+    update();
+}
 
 void WumbleView::setRoom(double room) {
     room_ = std::clamp(room, 0.0, 0.45);
@@ -108,7 +112,7 @@ void WumbleView::setPokable(bool pokable) {
     setAttribute(Qt::WA_TransparentForMouseEvents, !pokable);
 }
 
-/// "Wumble, a sakura pet with a straw hat", so that those who don't see it know which one it is.
+/// "Wumble, sakura pet, with a straw hat", so that those who don't see it know which one it is.
 void WumbleView::say() {
     const auto& day = doing_.day;
     const bool isClump = !day.shows(wumble::RevealStep::arms);
@@ -156,7 +160,8 @@ Look WumbleView::pointerLook() const {
     if (gaze_) {
         return {gaze_->x, 0.8 * gaze_->y, 0.5 * gaze_->x};
     }
-    const auto pointerAt = doing_.gazes && isVisible() && desktopPointer ? desktopPointer() : std::nullopt;
+    const bool follows = doing_.gazes && isVisible() && !appearanceOf(*this).reduceMotion;
+    const auto pointerAt = follows && desktopPointer ? desktopPointer() : std::nullopt;
     if (!pointerAt) {
         return {};
     }
@@ -194,7 +199,7 @@ WumblePose WumbleView::firmPose(double now, const Look& pointer, bool reduceMoti
 WumblePose WumbleView::pose(double now) {
     const bool reduceMotion = appearanceOf(*this).reduceMotion;
     const WumbleJelly& jelly = jellyFor(reduceMotion);
-    const Look look = reduceMotion ? Look{} : pointerLook();
+    const Look look = pointerLook();
     memory_.note(look, now);
     memory_.keep(doing_);
     WumblePose firm = firmPose(now, look, reduceMotion);

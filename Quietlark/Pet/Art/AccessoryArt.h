@@ -85,14 +85,15 @@ inline constexpr Art scarfBand{
 
 inline constexpr Art scarfFolds{"M52 196C80 206 108 210 134 210C164 210 196 206 220 195"};
 
-inline constexpr Art scarfTail{
-    "M70 198C80 202 90 203 98 202C100 216 100 230 97 242C87 245 76 244 67 240C65 226 66 210 70 198Z"};
+inline constexpr Art scarfTail{"M92 208C72 217 48 221 23 220C20 227 20 234 22 241C50 243 78 236 98 222Z"};
 
-inline constexpr Art scarfFringe{"M69 239L68 246M77 242L76.5 249M86 243L86 250M95 242L95.5 248"};
+inline constexpr Art scarfFringe{
+    "M21 223L14 222.500M20.500 229L13 229.500M20.800 235L13.500 236.500M22 240L15.500 242.500"};
 
-inline constexpr Art scarfStripe{"M67.5 224C77 228 89 229 98.8 227"};
+inline constexpr Art scarfStripe{"M35 221.5C32.500 228 32.500 234 34.500 240.500"};
 
-inline constexpr Art strawBrim{"M-66 6C-66-6-32-13 0-13C32-13 66-6 66 6C66 17 32 20 0 20C-32 20-66 17-66 6Z"};
+/// What a hat lies on the dough with.
+inline constexpr Art itemRim{"M-66 6C-66-6-32-13 0-13C32-13 66-6 66 6C66 17 32 20 0 20C-32 20-66 17-66 6Z"};
 
 inline constexpr Art strawCrown{"M-36 4C-42-28-24-44 0-44C24-44 42-28 36 4C20 11-20 11-36 4Z"};
 

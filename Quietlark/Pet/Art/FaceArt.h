@@ -85,7 +85,8 @@ inline constexpr Art beanShade{
 
 inline constexpr Art beanToes{"M-4.2 8.5L-4.2 13.5M4.4 8.5L4.4 13.5"};
 
-/// An arm laid over the belly, around its shoulder.
-inline constexpr Art hugArm{"M-16-12C-4-20 14-15 24-4C31 4 30 13 22 16C12 19.5-6 18-15 10C-22 4-23-7-16-12Z"};
+/// An arm laid over the belly, the left one around its shoulder; open where it comes out of the body.
+inline constexpr Art hugArm{"M-15 9C2 2 28 6 48 17C60 24 59 41 45 43C26 45 2 41-14 34"};
+inline constexpr Art hugToes{"M56 30L49 28M53 38.5L46.500 34.5"};
 
 } // namespace quietlark::SoftWumble
