@@ -38,9 +38,10 @@ constexpr std::array crownLayers{edge(crown, 0xFACB45), fill(crownBase, 0xE5A92B
                                  line(crownGems, 0xE4576B, 7), line(crownTips, 0xFDE28A, 7)};
 constexpr std::array partyHatLayers{edge(partyHat, 0x8A7BDD), fill(partyHatStripes, 0xFFD766),
                                     line(partyHatDots, 0xFFFFFF, 6), edge(partyHatPom, 0xF47C94)};
-constexpr std::array haloLayers{edge(halo, 0xFBD45E), line(haloShine, 0xFFF3C2, 3)};
-constexpr std::array headphonesLayers{edge(headphoneBand, 0x555B6E), edge(headphoneCups, 0xFF8E69),
-                                      line(headphonePads, 0x555B6E, 6), line(headphoneShine, 0xFFC4AD, 3.4)};
+constexpr std::array haloLayers{backing(haloBacking), edge(halo, 0xFBD45E), line(haloShine, 0xFFF3C2, 3)};
+constexpr std::array headphonesLayers{backing(headphoneBacking), edge(headphoneBand, 0x555B6E),
+                                      edge(headphoneCups, 0xFF8E69), line(headphonePads, 0x555B6E, 6),
+                                      line(headphoneShine, 0xFFC4AD, 3.4)};
 constexpr std::array sleepMaskLayers{Layer{sleepMaskStrap, 0x55639F, 7, false, 1, true},
                                      edge(sleepMask, 0x7384C8), line(sleepMaskStitches, 0xF3F0FF, 2.8)};
 constexpr std::array bandageLayers{edge(bandage, 0xE79A78), fill(bandagePad, 0xFBE3CC),
@@ -70,7 +71,7 @@ constexpr std::array<Wear, 15> wardrobe{{
     {WumbleAccessory::starClip, starClipLayers, Seat::crest, {180, 16}, 16, 1},
     {WumbleAccessory::crown, crownLayers, Seat::crest, {142, 1}, 6, 1},
     {WumbleAccessory::partyHat, partyHatLayers, Seat::crest, {146, 3}, 11, 1.08},
-    {WumbleAccessory::halo, haloLayers, Seat::summit, {135, 4}, -6, 1.15},
+    {WumbleAccessory::halo, haloLayers, Seat::summit, {135, 8}, -6, 1.15},
     {WumbleAccessory::headphones, headphonesLayers, Seat::crest, {134, 2}, 0, 1},
     {WumbleAccessory::sleepMask, sleepMaskLayers, Seat::crest, {134, 34}, -4, 1.05},
     {WumbleAccessory::bandage, bandageLayers, Seat::crest, {96, 26}, -30, 1.05},

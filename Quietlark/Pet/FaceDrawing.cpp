@@ -76,8 +76,11 @@ Features of(WumbleExpression expression) {
         return {.eye = roundEye, .eyeShine = true, .brows = curiousBrows, .look = {2, -1.5}};
     case WumbleExpression::bashful: return {.brows = worriedBrows, .mouth = bashfulMouth, .look = {-3, 2.5}};
     case WumbleExpression::surprised:
-        return {
-            .eye = surprisedEye, .eyeShine = true, .mouth = tinyMouth, .openMouth = true, .look = {0, -1}};
+        return {.eye = surprisedEye,
+                .eyeShine = true,
+                .mouth = surprisedMouth,
+                .openMouth = true,
+                .look = {0, -1}};
     case WumbleExpression::focused: return {.brows = focusedBrows, .mouth = smallSmile};
     case WumbleExpression::wink: return {.mouth = catMouth, .ownLeftEyeOnly = true};
     }

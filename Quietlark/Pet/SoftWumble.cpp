@@ -34,7 +34,8 @@ void drawGroundShadow(QPainter& painter, const Stage& stage) {
     painter.drawEllipse(QPointF(134 + stage.motion.offset.x, 233), width / 2, 8 * (1 - lifted));
 }
 
-/// One after another: strokes that cross each other within one path take the rasterizer much longer.
+/// The body's outline comes first and is filled later; all other things lie on paper. One after another: strokes that
+/// cross each other within one path take the rasterizer much longer.
 void drawOutlines(QPainter& painter, const Stage& stage, std::span<const QPainterPath> outlines) {
     const double keyline = std::max(keylineWidth, thinnestLine / pixelsPerUnit(painter));
     const auto stroke = [&](const QColor& colour, double width) {
@@ -43,7 +44,11 @@ void drawOutlines(QPainter& painter, const Stage& stage, std::span<const QPainte
         }
     };
     stroke(stage.tweaks.stickerInk.value_or(stage.colours.ink), rimWidth + 2 * keyline);
-    stroke(stage.tweaks.stickerWhite.value_or(Qt::white), rimWidth);
+    const QColor paper = stage.tweaks.stickerWhite.value_or(Qt::white);
+    stroke(paper, rimWidth);
+    for (const QPainterPath& thing : outlines.subspan(1)) {
+        painter.fillPath(thing, paper);
+    }
 }
 
 /// The same body, a little up and to the left: what it leaves uncovered is in the shade.
@@ -100,8 +105,8 @@ std::vector<QPainterPath> outlines(const Stage& stage, const Belongings& things)
 
 /// What a thing leaves uncovered of a path.
 QPainterPath besides(const std::optional<Placed>& thing, const QPainterPath& path) {
-    const QPainterPath cover = thing ? outline(*thing) : QPainterPath();
-    return cover.intersects(path.boundingRect()) ? path.subtracted(cover) : path;
+    const QPainterPath hidden = thing ? cover(*thing) : QPainterPath();
+    return hidden.intersects(path.boundingRect()) ? path.subtracted(hidden) : path;
 }
 
 /// The light lies on the dough, not on what the pet wears there.

@@ -9,7 +9,7 @@ namespace quietlark::SoftWumble {
 
 namespace {
 
-constexpr std::array headsetLayers{Layer{headsetBand, 0x4B5268, 0, true},
+constexpr std::array headsetLayers{backing(headsetBacking), Layer{headsetBand, 0x4B5268, 0, true},
                                    Layer{headsetCup, 0x7FD8EA, 0, true}, Layer{headsetArm, 0x4B5268, 4.5},
                                    Layer{headsetMic, 0x4B5268, 10}};
 constexpr std::array keyboardLayers{Layer{keyboard, 0xE9E7F2, 0, true}, Layer{keyboardFront, 0xC3BFD6},
@@ -89,22 +89,29 @@ void drawLayers(QPainter& painter, const Stage& stage, const Placed& thing) {
     }
 }
 
-QPainterPath outline(const Placed& thing) {
+namespace {
+
+QPainterPath silhouette(const Placed& thing, bool withBacking) {
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
     for (const Layer& layer : thing.layers) {
-        if (layer.silhouette) {
+        if (layer.silhouette && (withBacking || layer.opacity > 0)) {
             path.addPath(thing.seat.map(thing.bend.bendy(layer.art.path())));
         }
     }
     return path;
 }
 
+} // namespace
+
+QPainterPath outline(const Placed& thing) { return silhouette(thing, true); }
+QPainterPath cover(const Placed& thing) { return silhouette(thing, false); }
+
 void drawContact(QPainter& painter, const Stage& stage, const Placed& thing) {
     constexpr QPointF fall{1.5, 5};
     const PainterScope scope(painter);
     painter.setClipPath(stage.outline, Qt::IntersectClip);
-    painter.fillPath(outline(thing).translated(fall), contactShade);
+    painter.fillPath(cover(thing).translated(fall), contactShade);
 }
 
 void drawPaws(QPainter& painter, const Stage& stage) {

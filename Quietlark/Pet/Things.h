@@ -39,6 +39,9 @@ void drawContact(QPainter& painter, const Stage& stage, const Placed& thing);
 /// The outlines that the rim of the sticker goes around.
 QPainterPath outline(const Placed& thing);
 
+/// What a thing hides.
+QPainterPath cover(const Placed& thing);
+
 void drawPaws(QPainter& painter, const Stage& stage);
 void drawHug(QPainter& painter, const Stage& stage);
 void drawPointer(QPainter& painter, const Stage& stage);

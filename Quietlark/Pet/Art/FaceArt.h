@@ -60,6 +60,9 @@ inline constexpr Art wavyMouth{"M123.5 178C126 174.2 129 174.6 131.5 177.4C134 1
 inline constexpr Art tinyMouth{
     "M134 173.5C136.6 173.5 138.2 175.4 138.2 177.9C138.2 180.6 136.5 182.3 134 182.3C131.5 182.3 129.8 "
     "180.6 129.8 177.9C129.8 175.4 131.4 173.5 134 173.5Z"};
+inline constexpr Art surprisedMouth{
+    "M134 172.4C137.3 172.4 139.3 175.2 139.3 178.8C139.3 182.6 137.2 185.2 134 185.2C130.8 185.2 128.7 "
+    "182.6 128.7 178.8C128.7 175.2 130.7 172.4 134 172.4Z"};
 inline constexpr Art happyMouth{
     "M124 174.5C129 176.2 139 176.2 144 174.5C145.2 174.2 145.8 175 145.5 176.2C144 182.4 139.6 186.3 134 "
     "186.3C128.4 186.3 124 182.4 122.5 176.2C122.2 175 122.8 174.2 124 174.5Z"};
@@ -87,6 +90,6 @@ inline constexpr Art beanToes{"M-4.2 8.5L-4.2 13.5M4.4 8.5L4.4 13.5"};
 
 /// An arm laid over the belly, the left one around its shoulder; open where it comes out of the body.
 inline constexpr Art hugArm{"M-15 9C2 2 28 6 48 17C60 24 59 41 45 43C26 45 2 41-14 34"};
-inline constexpr Art hugToes{"M56 30L49 28M53 38.5L46.500 34.5"};
+inline constexpr Art hugToes{"M56 30L49 28M53 38.5L46.5 34.5"};
 
 } // namespace quietlark::SoftWumble

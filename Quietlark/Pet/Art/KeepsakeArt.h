@@ -26,7 +26,7 @@ inline constexpr Art teaDrink{
 
 inline constexpr Art teaBand{"M-21 1C-8 5 8 5 21 1L19 8C8 11-8 11-19 8Z"};
 
-inline constexpr Art teaSteam{"M17-19C14.500-22 19.500-24 17-27.500M25-17C22.500-20 27.500-22 25-25.500"};
+inline constexpr Art teaSteam{"M17-19C14.5-22 19.5-24 17-27.5M25-17C22.5-20 27.5-22 25-25.5"};
 
 inline constexpr Art heart{"M0 19C-39-1-20-30 0-12C20-31 39-1 0 19Z"};
 
