@@ -182,7 +182,7 @@ private:
         } else {
             painter_.fillPath(pair.path(), stage_.faceInk);
         }
-        if (isSet(lid)) {
+        if (isSet(lid) && (stroked || lids() < 0.5)) {
             painter_.strokePath(lid.path(), thin());
         }
     }
@@ -203,18 +203,18 @@ private:
     void drawLidded(const QPainterPath& eyes, std::initializer_list<double> middles) const {
         constexpr double halfHeight = 7.6;
         const double edge = mix(-halfHeight + 3, 2, lids());
-        const double bow = mix(-7, 4, lids());
+        const double bow = mix(-6.5, 4, lids() * lids());
         QPainterPath open;
         QPainterPath edges;
         for (const double x : middles) {
-            const double droop = 2.4 * swell(lids()) * (x > mouthX ? 1 : -1);
+            const double droop = swell(lids()) * (x > mouthX ? 1 : -1);
             open.moveTo(x - 14, edge - 2 * droop);
             open.quadTo(x, edge + bow, x + 14, edge + 2 * droop);
             open.lineTo(x + 14, 20);
             open.lineTo(x - 14, 20);
             open.closeSubpath();
-            edges.moveTo(x - 7.5, edge + bow * 0.3 - droop);
-            edges.quadTo(x, edge + bow * 0.8, x + 7.5, edge + bow * 0.3 + droop);
+            edges.moveTo(x - 6.3, edge + bow * 0.15 - droop);
+            edges.quadTo(x, edge + bow * 0.85, x + 6.3, edge + bow * 0.15 + droop);
         }
         painter_.fillPath(eyes.intersected(open), stage_.faceInk);
         QPen pen = pen_;
