@@ -171,9 +171,12 @@ Look WumbleView::pointerLook() const {
             0.6 * std::tanh(away.x() / (2 * scale))};
 }
 
-double WumbleView::pulledBy(double now) const {
+double WumbleView::pulledBy(double now, bool reduceMotion) const {
     if (pressedAt_) {
         return pull_;
+    }
+    if (reduceMotion) {
+        return 0;
     }
     return doing_.letGo && now - *doing_.letGo < settled ? pull_ * WumbleAnimator::letGo(now - *doing_.letGo)
                                                          : 0;
@@ -192,7 +195,7 @@ WumblePose WumbleView::firmPose(double now, const Look& pointer, bool reduceMoti
     pose.turn = {std::clamp(pose.turn.x + 0.8 * pointer.x, -1.0, 1.0),
                  std::clamp(pose.turn.y + 0.7 * pointer.y, -1.0, 1.0)};
     pose.lean = std::clamp(pose.lean + pointer.lean, -1.0, 1.0);
-    pose.pull = std::clamp(pose.pull + pulledBy(now), -1.0, 1.0);
+    pose.pull = std::clamp(pose.pull + pulledBy(now, reduceMotion), -1.0, 1.0);
     return pose;
 }
 
@@ -227,8 +230,7 @@ bool WumbleView::isMoving(double now) const {
         return true;
     }
     const bool reacts = doing_.reaction && now < *doing_.reaction + duration(doing_.reactionGesture);
-    const bool swings = pressedAt_ || (doing_.letGo && now < *doing_.letGo + settled);
-    return reacts || swings || doing_.mood == wumble::WumbleMood::blinking ||
+    return reacts || doing_.mood == wumble::WumbleMood::blinking ||
            WumbleAnimator::untilBlink(now - clock_.start) == 0;
 }
 
