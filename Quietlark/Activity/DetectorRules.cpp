@@ -11,7 +11,16 @@ using wumble::lowerCased;
 
 namespace {
 
-constexpr std::array<std::string_view, 3> audioPlumbing{"coreaudiod", "avconferenced", "corespeechd"};
+constexpr std::array<std::string_view, 11> audioPlumbing{
+    "coreaudiod", "avconferenced", "corespeechd",  "pipewire",   "pipewire-pulse", "wireplumber",
+    "pulseaudio", "easyeffects",   "pulseeffects", "noisetorch", "jamesdsp",
+};
+
+/// Tools that write down what one says, and name themselves otherwise.
+constexpr std::array<std::string_view, 9> dictationTools{
+    "net.mkiol.speechnote", "dsnote", "numen",     "talon",       "voxtype",
+    "com.pais.handy",       "handy",  "hyprwhspr", "open-whispr",
+};
 
 constexpr std::array<std::string_view, 7> ignoredAssertionOwners{
     "caffeinate", "Amphetamine", "KeepingYouAwake", "Lungo", "Theine", "powerd", "coreaudiod",
@@ -19,6 +28,10 @@ constexpr std::array<std::string_view, 7> ignoredAssertionOwners{
 
 bool isAtOrBelow(std::string_view id, std::string_view entry) {
     return id.starts_with(entry) && (id.size() == entry.size() || id[entry.size()] == '.');
+}
+
+template <class List> bool isAmong(const List& list, std::string_view text) {
+    return std::ranges::find(list, text) != list.end();
 }
 
 std::vector<std::string> lowerCasedIdentifiers(const AppRef& app) {
@@ -34,6 +47,10 @@ bool isSystemDictation(const AppRef& app) {
     const auto speaksOfIt = [](const std::string& text) {
         return contains(text, "speechrecognition") || contains(text, "dictation");
     };
+    const auto identifiers = lowerCasedIdentifiers(app);
+    if (std::ranges::any_of(identifiers, [](const auto& id) { return isAmong(dictationTools, id); })) {
+        return true;
+    }
     const std::string name = lowerCased(app.name);
     return speaksOfIt(lowerCased(app.bundleID.value_or(""))) || speaksOfIt(name) ||
            name == "localspeechrecognition" || name == "corespeechd";
@@ -65,13 +82,24 @@ bool isDictationTool(const AppRef& app, const std::vector<std::string>& dictatio
     return isListed(app, dictationApps) || isSystemDictation(app);
 }
 
-bool isAudioPlumbing(std::string_view processName) {
-    return std::ranges::find(audioPlumbing, processName) != audioPlumbing.end();
+bool isAudioPlumbing(const AppRef& app) {
+    return isAmong(audioPlumbing, app.name) ||
+           std::ranges::any_of(app.aliases, [](const auto& id) { return isAmong(audioPlumbing, id); });
 }
 
-bool isIgnoredSleepHolder(std::string_view name, std::string_view ownProcessName) {
-    return name == ownProcessName ||
-           std::ranges::find(ignoredAssertionOwners, name) != ignoredAssertionOwners.end();
+bool isIgnoredSleepHolder(const AppRef& app, std::string_view ownProcessName) {
+    const auto isIgnored = [&](const std::string& name) {
+        return name == ownProcessName || isAmong(ignoredAssertionOwners, name);
+    };
+    return isIgnored(app.name) || std::ranges::any_of(app.aliases, isIgnored);
+}
+
+bool isVideoPlayer(const std::vector<std::string>& categories) {
+    const auto has = [&](std::string_view kind) {
+        return isAmong(categories, "public.app-category." + std::string(kind));
+    };
+    const bool isForWatching = has("video") || has("tv") || (has("player") && !has("audio") && !has("music"));
+    return isForWatching && !has("audiovideoediting");
 }
 
 std::string shownName(const std::string& name) {

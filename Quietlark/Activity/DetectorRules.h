@@ -33,7 +33,7 @@ inline constexpr std::array<NamedApp, 7> meetingApps{{
 }};
 
 /// Programs that record the screen.
-inline constexpr std::array<NamedApp, 7> recorders{{
+inline constexpr std::array<NamedApp, 12> recorders{{
     {"com.obsproject.obs-studio", "OBS"},
     {"com.loom.desktop", "Loom"},
     {"pl.maketheweb.cleanshotx", "CleanShot X"},
@@ -41,6 +41,11 @@ inline constexpr std::array<NamedApp, 7> recorders{{
     {"com.apple.QuickTimePlayerX", "QuickTime Player"},
     {"com.techsmith.camtasia2023", "Camtasia"},
     {"com.kap.app", "Kap"},
+    {"io.github.seadve.Kooha", "Kooha"},
+    {"com.dec05eba.gpu_screen_recorder", "GPU Screen Recorder"},
+    {"com.github.vkohaupt.vokoscreenNG", "vokoscreenNG"},
+    {"sa.sy.bluerecorder", "Blue Recorder"},
+    {"wf-recorder", "wf-recorder"},
 }};
 
 /// The name of the first of a table that runs.
@@ -54,10 +59,13 @@ bool isListed(const AppRef& app, const std::vector<std::string>& entries);
 bool isDictationTool(const AppRef& app, const std::vector<std::string>& dictationApps);
 
 /// Processes that carry sound for others and are no program on the microphone.
-bool isAudioPlumbing(std::string_view processName);
+bool isAudioPlumbing(const AppRef& app);
 
 /// Who keeps the display awake without anybody watching anything.
-bool isIgnoredSleepHolder(std::string_view name, std::string_view ownProcessName);
+bool isIgnoredSleepHolder(const AppRef& app, std::string_view ownProcessName);
+
+/// Whether a program is for watching, by the categories that it states: its reasons may be in any language.
+bool isVideoPlayer(const std::vector<std::string>& categories);
 
 /// The name to show for a program; never empty.
 std::string shownName(const std::string& name);

@@ -24,10 +24,15 @@ void addOnce(std::vector<std::string>& names, std::string name) {
 }
 
 bool isSameProgram(const AppRef& a, const AppRef& b) {
-    if (a.pid != 0 && a.pid == b.pid) {
+    if ((a.pid != 0 && a.pid == b.pid) || (a.bundleID && a.bundleID == b.bundleID)) {
         return true;
     }
     return !a.name.empty() && !b.name.empty() && (a.name.starts_with(b.name) || b.name.starts_with(a.name));
+}
+
+bool isPlayback(const SleepHolder& holder, Applications& applications) {
+    return wumble::VideoDetection::isPlayback(holder.reason) ||
+           DetectorRules::isVideoPlayer(applications.inspect(holder.app).categories);
 }
 
 } // namespace
@@ -71,7 +76,7 @@ SmartPauseDetector::readMicrophone(const wumble::WumbleSettings& settings) const
     if (!apps) {
         return {.inUse = platform_.microphone->physicalMicrophoneRunning()};
     }
-    std::erase_if(*apps, [](const AppRef& app) { return DetectorRules::isAudioPlumbing(app.name); });
+    std::erase_if(*apps, DetectorRules::isAudioPlumbing);
     MicrophoneReading reading;
     for (AppRef& app : *apps) {
         if (!DetectorRules::isDictationTool(app, settings.dictationApps)) {
@@ -183,8 +188,8 @@ void SmartPauseDetector::readVideo(DetectorStatus& status, const wumble::WumbleS
                                    const std::optional<AppRef>& front) {
     for (const SleepHolder& holder : platform_.sleepHolders->displaySleepHolders()) {
         const AppRef& app = holder.app;
-        if (wumble::VideoDetection::isPlayback(holder.reason) &&
-            !DetectorRules::isIgnoredSleepHolder(app.name, platform_.processName) &&
+        if (isPlayback(holder, *platform_.applications) &&
+            !DetectorRules::isIgnoredSleepHolder(app, platform_.processName) &&
             !DetectorRules::isListed(app, settings.videoExcludedApps) && !gameName(app)) {
             status.videoApp = DetectorRules::shownName(app.name);
             status.videoAppIsFrontmost = front && isSameProgram(app, *front);

@@ -184,12 +184,16 @@ TEST_F(SmartPauseDetectorTest, playbackIsWhatHoldsTheDisplayAwakeForVideo) {
         {"a player", {player, "Playing video"}, true},
         {"another reason", {player, "Presenting"}, false},
         {"a keep-awake tool", {app(81, "caffeinate", "c"), "Playing video"}, false},
+        {"a player in another language", {app(85, "Films", "org.films"), "Wiedergabe"}, true},
+        {"a player of music", {app(86, "Songs", "org.songs"), "Wiedergabe"}, false},
         {"this program", {app(82, "quietlark", "q"), "video"}, false},
         {"an excluded program", {app(83, "Cutter", "org.cutter.beta"), "video"}, false},
         {"a game", {app(84, "Game", "org.game"), "video"}, false},
     };
     settings.videoExcludedApps = {"org.Cutter"};
     desktop.inspections[84] = {{}, {"public.app-category.games"}};
+    desktop.inspections[85] = {{}, {"public.app-category.audiovideo", "public.app-category.player"}};
+    desktop.inspections[86] = {{}, {"public.app-category.audio", "public.app-category.player"}};
     for (const Case& each : cases) {
         desktop.sleepHolders = {each.holder};
         EXPECT_EQ(poll().has_value(), each.counts) << each.what;

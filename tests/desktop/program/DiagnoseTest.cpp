@@ -1,6 +1,7 @@
 #include "tests/desktop/program/ProgramDesktop.h"
 #include "tests/lab/Spin.h"
 
+#include <csignal>
 #include <sstream>
 
 namespace quietlark::lab {
@@ -70,6 +71,14 @@ TEST_F(DiagnoseTest, knowsAGameByItsPlaceAndWhetherItFillsTheScreen) {
     window = start({game, "-class", "Blocks", "-fullscreen", "-e", "cat"});
     tells("game in front", "Blocks (fills the screen)");
     tells("auto-pause now", "Playing Blocks");
+}
+
+TEST_F(DiagnoseTest, endsThoughTheBusAndTheServersStandStill) {
+    sound.signal(SIGSTOP);
+    EXPECT_EQ(report("screen capture"), "unavailable");
+    EXPECT_EQ(report("capturers (log)"), "unknown");
+    sound.signal(SIGCONT);
+    tells("capturers (log)", "none");
 }
 
 TEST_F(DiagnoseTest, watchesForAsLongAsItIsAskedTo) {

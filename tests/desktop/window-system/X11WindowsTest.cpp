@@ -26,6 +26,22 @@ TEST_F(X11Windows, theFrontWindowFollowsTheFocusAndNamesItsProgram) {
     EXPECT_TRUE(until([&] { return windows->windows() == std::vector{beta}; }));
     windows->activate(alpha);
     EXPECT_TRUE(until([this] { return frontClass() == "Beta"; })) << "a window that is gone takes nothing";
+
+    clients.clear();
+    EXPECT_TRUE(until([this] { return !windows->frontWindow(); })) << "though openbox goes on naming it";
+}
+
+TEST_F(X11Windows, aListOfRubbishNamesNoWindows) {
+    startWindowManager();
+    const AppWindow alpha = openTerminal("Alpha");
+    const auto write = [this](const std::string& property, const std::string& numbers) {
+        server->run({"xprop", "-root", "-f", property, "32x", "-set", property, numbers});
+    };
+    write("_NET_CLIENT_LIST_STACKING", "0, " + std::to_string(alpha.id) + ", 5, 0");
+    write("_NET_ACTIVE_WINDOW", "7");
+    EXPECT_TRUE(until([this] { return !windows->frontWindow(); }));
+    EXPECT_TRUE(until([this] { return windows->windows().size() == 2; }));
+    EXPECT_EQ(windows->windows().front(), alpha);
 }
 
 TEST_F(X11Windows, onlyWindowsToBeSeenHaveRectangles) {

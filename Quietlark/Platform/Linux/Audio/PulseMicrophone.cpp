@@ -43,6 +43,7 @@ SoundClient program(const pa_proplist* properties) {
     return {.pid = number(text(properties, PA_PROP_APPLICATION_PROCESS_ID)),
             .appID = sandboxID ? sandboxID : text(properties, PA_PROP_APPLICATION_ID),
             .name = text(properties, PA_PROP_APPLICATION_NAME),
+            .binary = text(properties, PA_PROP_APPLICATION_PROCESS_BINARY),
             .isSandboxed = sandboxID.has_value()};
 }
 
@@ -210,6 +211,7 @@ void PulseMicrophone::told(const pa_source_output_info& stream) {
                                  .isPaused = stream.corked != 0,
                                  .isLevelMeter = isLevelMeter(stream),
                                  .takesWhatIsPlayed = isSetTo(stream.proplist, "stream.capture.sink", "true"),
+                                 .isPartOfFilter = text(stream.proplist, "node.link-group").has_value(),
                                  .program = program(stream.proplist)};
     if (assignIfChanged(recordings_.streams, stream.index, record)) {
         findApps();

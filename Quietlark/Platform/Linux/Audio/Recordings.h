@@ -15,6 +15,7 @@ struct SoundClient {
     int pid = 0; ///< 0 where it doesn't tell
     std::optional<std::string> appID;
     std::optional<std::string> name;
+    std::optional<std::string> binary;
     bool isSandboxed = false; ///< its own word on its process is then that of another numbering
 
     bool operator==(const SoundClient&) const = default;
@@ -27,6 +28,7 @@ struct RecordingStream {
     bool isPaused = false;
     bool isLevelMeter = false;
     bool takesWhatIsPlayed = false;
+    bool isPartOfFilter = false; ///< which gives what it hears to whoever records from it
     SoundClient program;
 
     bool operator==(const RecordingStream&) const = default;
@@ -40,7 +42,8 @@ struct Recordings {
         isMonitor; ///< of each source: whether it gives what the machine itself plays
 
     /// The programs that listen to a microphone now, in the order of their streams, without `ownProcess`. A stream
-    /// on a source that isn't known doesn't count: it hears nothing.
+    /// on a source that isn't known doesn't count: it hears nothing. Nor do the server's own, that pass a microphone
+    /// on or take the echo out of it.
     std::vector<AppHints> listening(int ownProcess) const;
 };
 

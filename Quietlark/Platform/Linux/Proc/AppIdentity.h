@@ -13,6 +13,9 @@ struct AppHints {
     std::optional<std::string> appID; ///< an identifier: of a desktop entry, a flatpak, a portal
     std::optional<std::string> windowClass;
     std::optional<std::string> name; ///< as the program calls itself
+    /// The name of its file, by its own word. A process of that number that runs another file is somebody else: inside
+    /// a sandbox processes are numbered anew.
+    std::optional<std::string> binary;
 };
 
 /// Who a process is to its person: its desktop entry, its name, its identifiers.

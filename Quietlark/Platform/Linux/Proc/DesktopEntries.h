@@ -11,9 +11,11 @@ namespace quietlark {
 
 /// What an installed program says of itself.
 struct DesktopEntry {
-    std::string id;          ///< without ".desktop"; folders of the path joined by "-"
-    std::string name;        ///< in the person's language
-    std::string executable;  ///< the first word that is a program; a bare name or a path
+    std::string id;         ///< without ".desktop"; folders of the path joined by "-"
+    std::string name;       ///< in the person's language
+    std::string executable; ///< the first word that is a program; a bare name or a path
+    int arguments =
+        0; ///< words that follow it, but for files to open: an entry with some is for a part of it
     std::string windowClass; ///< may be empty
     std::vector<std::string> categories;
     bool isHidden = false; ///< not in menus: a helper, or a second entry of a program
@@ -30,27 +32,36 @@ public:
     /// The folders of this session, by its environment.
     static std::vector<std::filesystem::path> sessionFolders();
 
-    /// Reads the folders when something was installed or taken away since. Every question does so first; the first time
-    /// takes some milliseconds.
+    /// Reads the folders when something was installed or taken away since, which takes some milliseconds.
     void readIfChanged();
 
-    /// Each gives nothing for an empty text. Identifiers and classes in any case; the pointer holds until the next
-    /// call.
-    const DesktopEntry* withID(std::string_view id);
-    const DesktopEntry* withWindowClass(std::string_view windowClass);
+    /// By what was read last. Each gives nothing for an empty text. Identifiers and classes in any case; the pointer
+    /// holds until the next reading.
+    const DesktopEntry* withID(std::string_view id) const;
+    const DesktopEntry* withWindowClass(std::string_view windowClass) const;
 
-    /// By the full path or else by the file's name. Entries in menus come first.
-    const DesktopEntry* withExecutable(std::string_view path);
+    /// By the full path or else by the file's name. Entries in menus and for the program as a whole come first.
+    const DesktopEntry* withExecutable(std::string_view path) const;
+
+    /// Of the program that was installed into a folder of its own in which this path lies.
+    const DesktopEntry* withInstallationOf(std::string_view path) const;
 
 private:
+    using Index = std::map<std::string, std::string, std::less<>>;
+
     void readFolder(const std::filesystem::path& folder);
     void add(DesktopEntry entry);
+    void noteInstallation(const DesktopEntry& entry, const std::string& key);
+    void note(Index& index, const std::string& name, const std::string& key);
+    bool hasChanged() const;
 
     std::vector<std::filesystem::path> folders_;
-    std::vector<std::filesystem::file_time_type> read_; ///< when each folder had changed last
+    /// When each folder had changed last, those within them included.
+    std::map<std::filesystem::path, std::filesystem::file_time_type> read_;
     std::map<std::string, DesktopEntry, std::less<>> byID_;
-    std::map<std::string, std::string, std::less<>> byClass_; ///< to identifiers
-    std::map<std::string, std::string, std::less<>> byExecutable_;
+    Index byClass_; ///< to identifiers
+    Index byExecutable_;
+    Index byInstallation_;
 };
 
 } // namespace quietlark

@@ -1,5 +1,6 @@
 #include "Quietlark/Platform/Linux/Proc/LinuxApplications.h"
 
+#include "Quietlark/Platform/Linux/Proc/LinuxAppIdentity.h"
 #include "Quietlark/Platform/Linux/Proc/WellKnownApps.h"
 #include "WumbleCore/Activity/AppBundle.h"
 #include "WumbleCore/Activity/GameDetection.h"
@@ -7,6 +8,10 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
+#include <ranges>
+#include <set>
+#include <utility>
 
 namespace quietlark {
 
@@ -16,6 +21,9 @@ constexpr std::string_view categoryPrefix = "public.app-category.";
 
 /// Categories of entries beside "Game" that say what kind of game it is, all by the same pattern ("ActionGame").
 constexpr std::string_view gameKindEnding = "game";
+
+/// Where this isn't enough, the next question goes on.
+constexpr std::chrono::milliseconds longestFindingOut{2};
 
 std::string listedCategory(const std::string& category) {
     const std::string low = wumble::lowerCased(category);
@@ -44,35 +52,86 @@ std::optional<AppRef> LinuxApplications::frontmost() {
     return front_->second;
 }
 
-AppRef LinuxApplications::appOfProcess(int pid) {
-    const std::string executable = processes_.executable(pid).value_or("");
-    const auto known = known_.find(pid);
-    if (known != known_.end() && known->second.executable == executable) {
-        return known->second.app;
-    }
-    return identity_.identify({.pid = pid});
-}
-
 std::vector<AppRef> LinuxApplications::running() {
-    std::map<int, Known> seen;
+    lookAtProcesses();
+    findOutWhoTheyAre();
+    std::set<std::pair<std::string, std::string>> listed;
     std::vector<AppRef> apps;
-    for (const int pid : processes_.ofThisPerson()) {
-        AppRef app = appOfProcess(pid);
-        const bool isAnotherOfOne = std::ranges::any_of(apps, [&](const AppRef& other) {
-            return other.bundleID == app.bundleID && other.name == app.name;
-        });
-        if (app.bundleID && !isAnotherOfOne) {
-            apps.push_back(app);
+    for (const auto& [pid, process] : processesSeen_) {
+        const auto& app = process.app;
+        if (app && app->bundleID && listed.emplace(*app->bundleID, app->name).second) {
+            apps.push_back(*app);
         }
-        seen.emplace(pid, Known{processes_.executable(pid).value_or(""), std::move(app)});
     }
-    known_ = std::move(seen);
     return apps;
 }
 
 bool LinuxApplications::isProcessRunning(std::string_view processName) {
-    const auto pids = processes_.ofThisPerson();
-    return std::ranges::any_of(pids, [&](int pid) { return processes_.name(pid) == processName; });
+    lookAtProcesses();
+    return std::ranges::any_of(processesSeen_, [&](const auto& entry) {
+        const std::string_view executable = entry.second.executable;
+        return executable.substr(executable.rfind('/') + 1) == processName;
+    });
+}
+
+void LinuxApplications::lookAtProcesses() {
+    const auto now = std::chrono::steady_clock::now();
+    if (lookedAt_ && now - *lookedAt_ < lookHolds_) {
+        return;
+    }
+    lookedAt_ = now;
+    std::map<int, Process> seen;
+    for (const int pid : processes_.ofThisPerson()) {
+        std::string executable = processes_.executable(pid).value_or("");
+        const auto known = processesSeen_.find(pid);
+        if (known != processesSeen_.end() && known->second.executable == executable) {
+            seen.insert(processesSeen_.extract(known));
+        } else {
+            seen.emplace(pid, Process{std::move(executable), {}});
+        }
+    }
+    processesSeen_ = std::move(seen);
+}
+
+void LinuxApplications::findOutWhoTheyAre() {
+    std::map<std::string_view, const AppRef*> byFile;
+    const auto end = std::chrono::steady_clock::now() + longestFindingOut;
+    // What matters now was mostly started lately.
+    for (auto& [pid, process] : processesSeen_ | std::views::reverse) {
+        const bool isSameAsItsKind = LinuxAppIdentity::isToldByFile(process.executable);
+        const auto kind = isSameAsItsKind ? byFile.find(process.executable) : byFile.end();
+        if (!process.app && kind != byFile.end()) {
+            process.app = *kind->second;
+            process.app->pid = pid;
+        } else if (!process.app && std::chrono::steady_clock::now() < end) {
+            process.app = identity_.identify({.pid = pid});
+        }
+        if (process.app && isSameAsItsKind) {
+            byFile.emplace(process.executable, &*process.app);
+        }
+    }
+}
+
+/// As the rules know them.
+std::vector<std::string> LinuxApplications::categoriesOf(const AppRef& app,
+                                                         const AppInspection& found) const {
+    std::vector<std::string> identifiers = app.aliases;
+    identifiers.insert(identifiers.begin(), app.bundleID.value_or(""));
+    if (std::ranges::any_of(identifiers, WellKnownApps::isGameLauncher)) {
+        return {std::string(categoryPrefix) + "game-store"};
+    }
+    if (std::ranges::any_of(found.paths, WellKnownApps::isLayerOfGames) ||
+        std::ranges::any_of(identifiers, WellKnownApps::isGame)) {
+        return {listedCategory("Game")};
+    }
+    std::vector<std::string> categories;
+    for (const std::string& id : identifiers) {
+        if (const DesktopEntry* entry = entries_.withID(id)) {
+            std::ranges::transform(entry->categories, std::back_inserter(categories), listedCategory);
+            break;
+        }
+    }
+    return categories;
 }
 
 AppInspection LinuxApplications::inspect(const AppRef& app) {
@@ -84,21 +143,7 @@ AppInspection LinuxApplications::inspect(const AppRef& app) {
     if (const auto program = processes_.windowsProgram(app.pid)) {
         inspection.paths.push_back(*program);
     }
-    std::vector<std::string> identifiers = app.aliases;
-    identifiers.insert(identifiers.begin(), app.bundleID.value_or(""));
-    for (const std::string& id : identifiers) {
-        if (WellKnownApps::isGameLauncher(id)) {
-            inspection.categories = {std::string(categoryPrefix) + "game-store"};
-            return inspection;
-        }
-    }
-    for (const std::string& id : identifiers) {
-        if (const DesktopEntry* entry = entries_.withID(id)) {
-            std::ranges::transform(entry->categories, std::back_inserter(inspection.categories),
-                                   listedCategory);
-            break;
-        }
-    }
+    inspection.categories = categoriesOf(app, inspection);
     return inspection;
 }
 

@@ -1,11 +1,15 @@
 #include "Quietlark/Platform/Linux/Proc/Processes.h"
 
 #include "WumbleCore/Foundation/Text.h"
+#include "WumbleCore/Storage/FileDescriptor.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
-#include <fstream>
-#include <iterator>
+#include <climits>
+#include <dirent.h>
+#include <fcntl.h>
+#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,7 +17,10 @@ namespace quietlark {
 
 namespace {
 
-std::optional<int> processNumber(const std::string& name) {
+constexpr std::size_t longestFile = 1
+                                    << 16; ///< bytes; a command may be longer, and its beginning says enough
+
+std::optional<int> processNumber(std::string_view name) {
     int number = 0;
     const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), number);
     return error == std::errc() && end == name.data() + name.size() ? std::optional(number) : std::nullopt;
@@ -30,35 +37,56 @@ std::optional<std::string> between(const std::string& text, std::string_view bef
     return end == std::string::npos ? std::nullopt : std::optional(text.substr(from, end - from));
 }
 
+/// The names of groups write a dash within an identifier as "\\x2d".
+std::string withoutEscapes(std::string text) {
+    constexpr std::string_view dash = "\\x2d";
+    for (std::size_t at = 0; (at = text.find(dash, at)) != std::string::npos; ++at) {
+        text.replace(at, dash.size(), "-");
+    }
+    return text;
+}
+
 } // namespace
 
 std::vector<int> Processes::ofThisPerson() const {
     std::vector<int> result;
-    std::error_code failed;
-    for (auto entry = std::filesystem::directory_iterator(root_, failed);
-         !failed && entry != std::filesystem::directory_iterator(); entry.increment(failed)) {
-        const auto pid = processNumber(entry->path().filename().string());
+    const std::unique_ptr<DIR, int (*)(DIR*)> folder(opendir(root_.c_str()), closedir);
+    while (const dirent* entry = folder ? readdir(folder.get()) : nullptr) {
+        const auto pid = processNumber(entry->d_name);
         struct stat owner {};
-        if (pid && stat(entry->path().c_str(), &owner) == 0 && owner.st_uid == getuid()) {
+        if (pid && fstatat(dirfd(folder.get()), entry->d_name, &owner, 0) == 0 && owner.st_uid == getuid()) {
             result.push_back(*pid);
         }
     }
     return result;
 }
 
+std::string Processes::pathOf(int pid, const char* file) const {
+    return root_.native() + '/' + std::to_string(pid) + '/' + file;
+}
+
 std::optional<std::string> Processes::executable(int pid) const {
-    std::error_code failed;
-    const auto path = std::filesystem::read_symlink(root_ / std::to_string(pid) / "exe", failed);
-    if (failed || pid <= 0) {
+    std::array<char, PATH_MAX> path{};
+    const ssize_t length = pid > 0 ? readlink(pathOf(pid, "exe").c_str(), path.data(), path.size()) : -1;
+    if (length < 0) {
         return std::nullopt;
     }
     // A program that was replaced by an update while it runs.
-    return std::string(wumble::withoutSuffix(path.string(), " (deleted)"));
+    return std::string(wumble::withoutSuffix({path.data(), static_cast<std::size_t>(length)}, " (deleted)"));
 }
 
 std::string Processes::contents(int pid, const char* file) const {
-    std::ifstream stream(root_ / std::to_string(pid) / file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
+    const wumble::FileDescriptor descriptor(open(pathOf(pid, file).c_str(), O_RDONLY | O_CLOEXEC));
+    std::string text;
+    std::array<char, 4096> buffer{};
+    while (text.size() < longestFile) {
+        const ssize_t count = read(descriptor.get(), buffer.data(), buffer.size());
+        if (count <= 0) {
+            break;
+        }
+        text.append(buffer.data(), static_cast<std::size_t>(count));
+    }
+    return text;
 }
 
 std::string Processes::name(int pid) const {
@@ -76,20 +104,28 @@ std::vector<std::string> Processes::commandLine(int pid) const {
     return result;
 }
 
+std::optional<int> Processes::parent(int pid) const {
+    return processNumber(between(contents(pid, "status"), "\nPPid:\t", "\n").value_or(""));
+}
+
 std::optional<std::string> Processes::sandboxID(int pid) const {
     const std::string groups = contents(pid, "cgroup");
-    if (auto flatpak = between(groups, "app-flatpak-", "-")) {
-        return flatpak;
+    if (const auto flatpak = between(groups, "app-flatpak-", "-")) {
+        return withoutEscapes(*flatpak);
     }
-    return between(groups, "snap.", ".");
+    return between(groups, "/snap.", ".");
 }
 
 std::optional<std::string> Processes::windowsProgram(int pid) const {
+    const std::filesystem::path loader(executable(pid).value_or(""));
+    if (!loader.filename().string().starts_with("wine")) {
+        return std::nullopt;
+    }
     for (const std::string& word : commandLine(pid)) {
         if (!wumble::lowerCased(word).ends_with(".exe")) {
             continue;
         }
-        const bool hasDrive = word.size() > 2 && word[1] == ':';
+        const bool hasDrive = word[1] == ':';
         std::string path = hasDrive ? word.substr(2) : word;
         std::ranges::replace(path, '\\', '/');
         return path;

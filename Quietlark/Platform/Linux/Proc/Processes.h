@@ -24,6 +24,9 @@ public:
     /// Its words; empty for a process that is gone.
     std::vector<std::string> commandLine(int pid) const;
 
+    /// Who started it; absent for a process that is gone.
+    std::optional<int> parent(int pid) const;
+
     /// The sandbox's identifier, where it runs in a flatpak or a snap.
     std::optional<std::string> sandboxID(int pid) const;
 
@@ -32,6 +35,7 @@ public:
     std::optional<std::string> windowsProgram(int pid) const;
 
 private:
+    std::string pathOf(int pid, const char* file) const;
     std::string contents(int pid, const char* file) const;
 
     std::filesystem::path root_;

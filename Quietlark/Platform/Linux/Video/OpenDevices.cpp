@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <fstream>
 #include <string_view>
 #include <sys/inotify.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 namespace quietlark {
@@ -15,6 +18,24 @@ bool isDeviceName(std::string_view name) {
     const std::string_view number = name.substr(std::min(name.size(), beginning.size()));
     return name.starts_with(beginning) && !number.empty() &&
            std::ranges::all_of(number, [](char digit) { return digit >= '0' && digit <= '9'; });
+}
+
+/// Chips that turn pictures from one form into another go by the same names as cameras, and players use them. The
+/// device manager knows which are which; where it doesn't say, it is a camera.
+bool takesNoPictures(const std::filesystem::path& device) {
+    struct stat file {};
+    if (stat(device.c_str(), &file) != 0) {
+        return false;
+    }
+    std::ifstream record("/run/udev/data/c" + std::to_string(major(file.st_rdev)) + ":" +
+                         std::to_string(minor(file.st_rdev)));
+    constexpr std::string_view capabilities = "E:ID_V4L_CAPABILITIES=";
+    for (std::string line; std::getline(record, line);) {
+        if (line.starts_with(capabilities)) {
+            return line.find(":capture:") == std::string::npos;
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -36,7 +57,7 @@ OpenDevices::~OpenDevices() {
 }
 
 void OpenDevices::follow(const std::string& name) {
-    if (!isDeviceName(name)) {
+    if (!isDeviceName(name) || takesNoPictures(folder_ / name)) {
         return;
     }
     const int watch = inotify_add_watch(events_, (folder_ / name).c_str(), IN_OPEN | IN_CLOSE);
@@ -46,7 +67,10 @@ void OpenDevices::follow(const std::string& name) {
 }
 
 bool OpenDevices::isDevice(const std::filesystem::path& path) const {
-    return path.parent_path() == folder_ && isDeviceName(path.filename().string());
+    return path.parent_path() == folder_ &&
+           std::ranges::any_of(devices_, [name = path.filename().string()](const auto& device) {
+               return device.second == name;
+           });
 }
 
 bool OpenDevices::takeWhetherChanged() {

@@ -9,8 +9,8 @@ namespace quietlark {
 /// has happened waits until it is asked for.
 class OpenDevices {
 public:
-    /// Devices are the files of `folder` whose names are "video" and a number. Where they can't be followed,
-    /// nothing ever happens.
+    /// Devices are the files of `folder` whose names are "video" and a number, but for those that are known not to
+    /// take pictures. Where they can't be followed, nothing ever happens.
     explicit OpenDevices(std::filesystem::path folder);
     ~OpenDevices();
     OpenDevices(const OpenDevices&) = delete;
@@ -21,7 +21,7 @@ public:
 
     bool hasDevices() const { return !devices_.empty(); }
 
-    /// Whether this path is one of a device, there or gone.
+    /// Whether this path is one of a device that is there.
     bool isDevice(const std::filesystem::path& path) const;
 
 private:

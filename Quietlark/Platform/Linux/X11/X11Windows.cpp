@@ -209,13 +209,18 @@ void X11Windows::conclude() {
     if (!manager_) {
         return;
     }
-    if (active() != XCB_NONE) {
+    if (isActiveWindowThere()) {
         front_ = appWindow(active());
     }
     for (const xcb_window_t window : managed()) {
+        // Whoever writes the list may write anything into it.
+        const X11Client* known = client(window);
+        if (!known) {
+            continue;
+        }
         stacking_.push_back(appWindow(window));
-        if (const auto& strut = clients_.at(window).topStrut) {
-            topStruts_.push_back(*strut);
+        if (known->topStrut) {
+            topStruts_.push_back(*known->topStrut);
         }
     }
 }
@@ -225,10 +230,18 @@ std::optional<std::uint32_t> X11Windows::currentDesktop() const {
     return told.empty() ? std::nullopt : std::optional(told.front());
 }
 
-bool X11Windows::canActivate() const {
+bool X11Windows::isSupported(X11Atom feature) const {
     const auto supported = numbers(X11Atom::supported);
-    const xcb_atom_t wanted = connection_.server()->atom(X11Atom::activeWindow);
-    return manager_ && std::ranges::find(supported, wanted) != supported.end();
+    return std::ranges::find(supported, connection_.server()->atom(feature)) != supported.end();
+}
+
+bool X11Windows::canActivate() const { return manager_ && isSupported(X11Atom::activeWindow); }
+
+/// Some window managers go on naming the last window after it was destroyed; its number may be another program's by
+/// then.
+bool X11Windows::isActiveWindowThere() const {
+    const bool isListed = std::ranges::find(managed(), active()) != managed().end();
+    return active() != XCB_NONE && (isListed || !isSupported(X11Atom::clientList));
 }
 
 } // namespace quietlark

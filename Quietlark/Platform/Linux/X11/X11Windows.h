@@ -56,6 +56,8 @@ private:
     std::span<const std::uint32_t> numbers(X11Atom name) const;
     std::span<const std::uint32_t> managed() const;
     xcb_window_t active() const;
+    bool isActiveWindowThere() const;
+    bool isSupported(X11Atom feature) const;
     X11Client* client(xcb_window_t window);
     AppWindow appWindow(xcb_window_t window) const;
     double rootWidth() const;
