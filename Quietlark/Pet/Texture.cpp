@@ -6,7 +6,6 @@ namespace quietlark::SoftWumble {
 namespace {
 
 using wumble::WumbleBase;
-constexpr auto body = Tint::Slot::body;
 constexpr auto shade = Tint::Slot::shade;
 constexpr auto light = Tint::Slot::light;
 

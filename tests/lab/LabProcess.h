@@ -59,7 +59,7 @@ std::string outputOf(const std::vector<std::string>& command, const Environment&
 /// Skips a test on a machine that lacks a program.
 #define LAB_NEEDS(program)                                                                                   \
     if (!::quietlark::lab::isInstalled(program)) {                                                           \
-        GTEST_SKIP() << program << " isn't installed";                                                       \
+        GTEST_SKIP() << (program) << " isn't installed";                                                     \
     }
 
 } // namespace quietlark::lab

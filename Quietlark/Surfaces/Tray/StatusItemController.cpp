@@ -4,6 +4,7 @@
 #include "Quietlark/Surfaces/Tray/MenuView.h"
 #include "Quietlark/Theme/AppearanceScope.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -20,10 +21,9 @@ constexpr double longAgo = -1e9;
 constexpr std::array<int, 6> pictureSizes{16, 22, 24, 32, 44, 64};
 
 std::vector<QImage> pictures(const MenuBarIcon::Key& key) {
-    std::vector<QImage> all;
-    for (const int size : pictureSizes) {
-        all.push_back(MenuBarIcon::image(key, size));
-    }
+    std::vector<QImage> all(pictureSizes.size());
+    std::ranges::transform(pictureSizes, all.begin(),
+                           [&](int size) { return MenuBarIcon::image(key, size); });
     return all;
 }
 
@@ -115,7 +115,7 @@ void StatusItemController::toggle(std::optional<QPointF> told) {
 std::optional<PopoverPlace::Anchor> StatusItemController::place(std::optional<QPointF> told) const {
     const SurfaceHost& host = context_.host;
     if (tray_.isShown()) {
-        if (const auto clicked = PopoverPlace::anchor(told, host.pointerNow(), host.screens())) {
+        if (auto clicked = PopoverPlace::anchor(told, host.pointerNow(), host.screens())) {
             return clicked;
         }
     }

@@ -22,7 +22,7 @@ Bystander::Bystander(const QRect& frame, Manager manager, std::uint32_t colour)
     : connection_(xcb_connect(nullptr, nullptr)),
       screen_(xcb_setup_roots_iterator(xcb_get_setup(connection_)).data),
       window_(xcb_generate_id(connection_)) {
-    const std::array<std::uint32_t, 3> values{colour, manager == Manager::passed,
+    const std::array<std::uint32_t, 3> values{colour, manager == Manager::passed ? 1U : 0U,
                                               XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_KEY_PRESS};
     xcb_create_window(connection_, XCB_COPY_FROM_PARENT, window_, screen_->root,
                       static_cast<std::int16_t>(frame.x()), static_cast<std::int16_t>(frame.y()),
