@@ -57,6 +57,7 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
                          MainLoop& loop, Platform platform)
     : loop_(loop), platform_(std::move(platform)), accessibility_(*platform_.announcer, *platform_.look),
       host_(hostYieldingToLocks(platform_)), sounds_(*platform_.soundOutput),
+      timeZone_([this] { model_.setCalendar(systemCalendar()); }),
       model_(folder, {.mainLoop = loop_,
                       .platform = platform_,
                       .sounds = &sounds_,
@@ -80,7 +81,7 @@ AppDelegate::AppDelegate(const std::filesystem::path& folder, const command::Run
     WumbleView::desktopPointer = [this] { return host_->pointer(); };
     platform_.copyNotice->observeAnotherCopyStarted(folder.string(), [this] { model_.anotherCopyStarted(); });
     platform_.copyNotice->observeActivation([this] { reopen(); });
-    platform_.copyNotice->observeSessionEnd([this] { model_.prepareForTermination(); });
+    platform_.copyNotice->observeSessionEnd([this] { model_.save(); }); // a session that ends may yet be kept
     beginWhenTheDesktopHasAnswered(options, loop_.uptime() + longestWaitForAnswers);
 }
 

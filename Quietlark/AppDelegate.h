@@ -11,6 +11,7 @@
 #include "Quietlark/Settings/SettingsWindow.h"
 #include "Quietlark/Surfaces/InstalledSurfaces.h"
 #include "Quietlark/TerminationSignals.h"
+#include "Quietlark/TimeZoneWatch.h"
 #include "Quietlark/Welcome/WelcomeWindow.h"
 
 #include <filesystem>
@@ -45,6 +46,7 @@ private:
     DesktopAccessibility accessibility_;
     std::unique_ptr<SurfaceHost> host_;
     CuePlayer sounds_;
+    TimeZoneWatch timeZone_; ///< before the model asks for the zone, so that no move is missed
     AppModel model_;
     InstalledSurfaces surfaces_;
     std::unique_ptr<WelcomeWindow> welcome_;   ///< made when it is first needed

@@ -71,9 +71,13 @@ void AppModel::start(Running running) {
     }
 }
 
-void AppModel::prepareForTermination() {
+void AppModel::save() const {
     storage_.save(engine_.snapshot(currentTime()));
     storage_.save(state_.life.value());
+}
+
+void AppModel::prepareForTermination() {
+    save();
     captureLog_.stop();
 }
 

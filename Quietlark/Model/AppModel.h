@@ -94,10 +94,16 @@ public:
     /// The part of a round that needs no machine.
     void step(const wumble::Signals& signals);
 
+    /// The person has moved to another time zone: days and times of day are those of this calendar from here on.
+    void setCalendar(wumble::Calendar calendar);
+
     /// Copies the engine's state and settles the heads-up and the countdown.
     void sync();
 
-    /// Saves what only memory holds and ends the capture log.
+    /// Saves what only memory holds.
+    void save() const;
+
+    /// Saves, and ends the capture log.
     void prepareForTermination();
 
     /// Handles what an operation of the engine brought.
@@ -233,6 +239,7 @@ private:
 
     // The day.
     void rollDayIfNeeded();
+    void dropRevealOfAnotherDay(wumble::Date date);
     void announceFinishedRecaps();
 
     void handleAsked(Asked from, const wumble::EngineEvents& events);

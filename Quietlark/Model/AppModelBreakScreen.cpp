@@ -135,6 +135,7 @@ void AppModel::finishWithoutScreen(const std::optional<std::string>& gained) {
 }
 
 AppModel::Growth AppModel::record(const wumble::BreakRecord& record) {
+    dropRevealOfAnotherDay(record.end);
     auto history = state_.history.value();
     history.push_back(record);
     state_.history = std::move(history);

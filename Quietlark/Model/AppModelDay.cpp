@@ -2,6 +2,7 @@
 #include "WumbleCore/Life/DayKey.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace quietlark {
@@ -16,19 +17,29 @@ Keys keySet(const std::optional<std::vector<std::string>>& keys) {
 
 } // namespace
 
+void AppModel::setCalendar(wumble::Calendar calendar) {
+    engine_.setCalendar(calendar);
+    services_.calendar = std::move(calendar);
+    sync();
+}
+
 void AppModel::rollDayIfNeeded() {
     const wumble::Date now = state_.now.value();
     if (wumble::DayKey::string(now, calendar()) == state_.today.value().day) {
         return;
     }
-    // Yesterday's reveal is past keeping.
-    if (heldReveal_) {
-        closeBreakScreen();
-    }
+    dropRevealOfAnotherDay(now);
     auto today = state_.today.value();
     changeLife([&](wumble::WumbleLife& life) { today = life.today(now, calendar(), services_.random); });
     state_.today = std::move(today);
     greetToday();
+}
+
+/// Yesterday's reveal is past keeping: the new pet isn't shown under it.
+void AppModel::dropRevealOfAnotherDay(wumble::Date date) {
+    if (heldReveal_ && wumble::DayKey::string(date, calendar()) != state_.today.value().day) {
+        closeBreakScreen();
+    }
 }
 
 void AppModel::greetToday() {

@@ -27,10 +27,10 @@ constexpr std::array beanieLayers{edge(beaniePom, 0xF6EAD4), edge(beanieTop, 0x5
                                   line(beanieBrimRibs, 0xD9C7A8, 2.6)};
 constexpr std::array glassesLayers{fill(glassesLens, 0xFFFFFF, 0.18), line(glassesFrames, 0x5B4034, 3.6),
                                    line(glassesBridge, 0x5B4034, 3.4), line(glassesShine, 0xFFFFFF, 2.6)};
-constexpr std::array scarfLayers{edge(scarfTail, 0xC94848),      fill(scarfStripe, 0xF8E3BE),
-                                 line(scarfStripe, 0xF8E3BE, 4), line(scarfFringe, 0xC94848, 3),
-                                 edge(scarfBand, 0xE05C55),      line(scarfFolds, 0xC94848, 3)};
-constexpr std::array strawHatLayers{edge(strawBrim, 0xE3BE68), edge(strawCrown, 0xF3D789),
+constexpr std::array scarfLayers{edge(scarfTail, 0xC94848), line(scarfStripe, 0xF8E3BE, 4.4),
+                                 line(scarfFringe, 0xC94848, 3), edge(scarfBand, 0xE05C55),
+                                 line(scarfFolds, 0xC94848, 3)};
+constexpr std::array strawHatLayers{edge(itemRim, 0xE3BE68), edge(strawCrown, 0xF3D789),
                                     fill(strawBand, 0xD75850), line(strawWeave, 0xCFA64F, 2.2)};
 constexpr std::array starClipLayers{edge(starPin, 0x7C86A8), edge(starClip, 0xFFC83A),
                                     line(starShine, 0xFFEBA6, 3.4)};
@@ -38,22 +38,23 @@ constexpr std::array crownLayers{edge(crown, 0xFACB45), fill(crownBase, 0xE5A92B
                                  line(crownGems, 0xE4576B, 7), line(crownTips, 0xFDE28A, 7)};
 constexpr std::array partyHatLayers{edge(partyHat, 0x8A7BDD), fill(partyHatStripes, 0xFFD766),
                                     line(partyHatDots, 0xFFFFFF, 6), edge(partyHatPom, 0xF47C94)};
-constexpr std::array haloLayers{edge(halo, 0xFBD45E), line(haloShine, 0xFFF3C2, 3)};
-constexpr std::array headphonesLayers{edge(headphoneBand, 0x555B6E), edge(headphoneCups, 0xFF8E69),
-                                      line(headphonePads, 0x555B6E, 6), line(headphoneShine, 0xFFC4AD, 3.4)};
+constexpr std::array haloLayers{backing(haloBacking), edge(halo, 0xFBD45E), line(haloShine, 0xFFF3C2, 3)};
+constexpr std::array headphonesLayers{backing(headphoneBacking), edge(headphoneBand, 0x555B6E),
+                                      edge(headphoneCups, 0xFF8E69), line(headphonePads, 0x555B6E, 6),
+                                      line(headphoneShine, 0xFFC4AD, 3.4)};
 constexpr std::array sleepMaskLayers{Layer{sleepMaskStrap, 0x55639F, 7, false, 1, true},
                                      edge(sleepMask, 0x7384C8), line(sleepMaskStitches, 0xF3F0FF, 2.8)};
 constexpr std::array bandageLayers{edge(bandage, 0xE79A78), fill(bandagePad, 0xFBE3CC),
                                    line(bandageSpot, 0xA8644A, 2.8)};
 
 /// Where things sit.
-enum class Seat { crest, box, face };
+enum class Seat { crest, summit, box, face };
 
 struct Wear {
     WumbleAccessory value;
     Layers layers;
     Seat seat;
-    QPointF at;      ///< x in the box and how far below the crest; or a point of the box
+    QPointF at; ///< x in the box and how far below the crest, or the highest crest; or a point of the box
     double tilt = 0; ///< degrees
     double size = 1;
 };
@@ -70,7 +71,7 @@ constexpr std::array<Wear, 15> wardrobe{{
     {WumbleAccessory::starClip, starClipLayers, Seat::crest, {180, 16}, 16, 1},
     {WumbleAccessory::crown, crownLayers, Seat::crest, {142, 1}, 6, 1},
     {WumbleAccessory::partyHat, partyHatLayers, Seat::crest, {146, 3}, 11, 1.08},
-    {WumbleAccessory::halo, haloLayers, Seat::crest, {135, 4}, -6, 1.15},
+    {WumbleAccessory::halo, haloLayers, Seat::summit, {135, 8}, -6, 1.15},
     {WumbleAccessory::headphones, headphonesLayers, Seat::crest, {134, 2}, 0, 1},
     {WumbleAccessory::sleepMask, sleepMaskLayers, Seat::crest, {134, 34}, -4, 1.05},
     {WumbleAccessory::bandage, bandageLayers, Seat::crest, {96, 26}, -30, 1.05},
@@ -85,11 +86,14 @@ std::optional<Placed> worn(const Stage& stage) {
     }
     const Wear& wear = wumble::rowOf(wardrobe, stage.day.traits.accessory);
     switch (wear.seat) {
-    case Seat::box: return Placed{wear.layers, stage.body};
+    case Seat::box: return Placed{wear.layers, stage.body, stage.soft};
     case Seat::face: return Placed{wear.layers, faceSeat(stage)};
-    case Seat::crest: break;
+    case Seat::crest:
+    case Seat::summit: break;
     }
-    const QPointF at(wear.at.x(), crest(stage.day.base, wear.at.x()) + wear.at.y());
+    const double top = wear.seat == Seat::summit ? shape(stage.day.base).boundingRect().top()
+                                                 : crest(stage.day.base, wear.at.x());
+    const QPointF at(wear.at.x(), top + wear.at.y());
     return Placed{wear.layers, stage.seat(at, wear.tilt, wear.size)};
 }
 

@@ -123,6 +123,9 @@ void drawSwoosh(const EffectPainter& effects, const Stage& stage) {
 void drawEffects(QPainter& painter, const Stage& stage) {
     const EffectPainter effects(painter, stage);
     const auto& pose = stage.pose;
+    if (pose.pointer) {
+        drawPointer(painter, stage);
+    }
     if (pose.zzz) {
         drawZzz(effects, *pose.zzz);
     }

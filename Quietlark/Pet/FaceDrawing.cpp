@@ -1,3 +1,4 @@
+#include "Quietlark/Pet/Art/BodyArt.h"
 #include "Quietlark/Pet/Art/FaceArt.h"
 #include "Quietlark/Pet/Ease.h"
 #include "Quietlark/Pet/Stage.h"
@@ -75,8 +76,11 @@ Features of(WumbleExpression expression) {
         return {.eye = roundEye, .eyeShine = true, .brows = curiousBrows, .look = {2, -1.5}};
     case WumbleExpression::bashful: return {.brows = worriedBrows, .mouth = bashfulMouth, .look = {-3, 2.5}};
     case WumbleExpression::surprised:
-        return {
-            .eye = surprisedEye, .eyeShine = true, .mouth = tinyMouth, .openMouth = true, .look = {0, -1}};
+        return {.eye = surprisedEye,
+                .eyeShine = true,
+                .mouth = surprisedMouth,
+                .openMouth = true,
+                .look = {0, -1}};
     case WumbleExpression::focused: return {.brows = focusedBrows, .mouth = smallSmile};
     case WumbleExpression::wink: return {.mouth = catMouth, .ownLeftEyeOnly = true};
     }
@@ -178,7 +182,7 @@ private:
         } else {
             painter_.fillPath(pair.path(), stage_.faceInk);
         }
-        if (isSet(lid)) {
+        if (isSet(lid) && (stroked || lids() < 0.5)) {
             painter_.strokePath(lid.path(), thin());
         }
     }
@@ -199,18 +203,18 @@ private:
     void drawLidded(const QPainterPath& eyes, std::initializer_list<double> middles) const {
         constexpr double halfHeight = 7.6;
         const double edge = mix(-halfHeight + 3, 2, lids());
-        const double bow = mix(-7, 4, lids());
+        const double bow = mix(-6.5, 4, lids() * lids());
         QPainterPath open;
         QPainterPath edges;
         for (const double x : middles) {
-            const double droop = 2.4 * swell(lids()) * (x > mouthX ? 1 : -1);
+            const double droop = swell(lids()) * (x > mouthX ? 1 : -1);
             open.moveTo(x - 14, edge - 2 * droop);
             open.quadTo(x, edge + bow, x + 14, edge + 2 * droop);
             open.lineTo(x + 14, 20);
             open.lineTo(x - 14, 20);
             open.closeSubpath();
-            edges.moveTo(x - 7.5, edge + bow * 0.3 - droop);
-            edges.quadTo(x, edge + bow * 0.8, x + 7.5, edge + bow * 0.3 + droop);
+            edges.moveTo(x - 6.3, edge + bow * 0.15 - droop);
+            edges.quadTo(x, edge + bow * 0.85, x + 6.3, edge + bow * 0.15 + droop);
         }
         painter_.fillPath(eyes.intersected(open), stage_.faceInk);
         QPen pen = pen_;
@@ -260,6 +264,16 @@ void drawFace(QPainter& painter, const Stage& stage) {
     }
 }
 
+/// However far the face turns, its cheeks stay on the body.
+QPointF heldOnBody(QPointF cheek, const Stage& stage) {
+    const auto body = extentAt(stage.outline, cheek.y());
+    const double inset = stage.tweaks.cheekInset;
+    if (!body || body->to - body->from < 2 * inset) {
+        return cheek;
+    }
+    return {std::clamp(cheek.x(), body->from + inset, body->to - inset), cheek.y()};
+}
+
 void drawCheeks(QPainter& painter, const Stage& stage) {
     if (!stage.shows(wumble::RevealStep::cheeks)) {
         return;
@@ -267,12 +281,14 @@ void drawCheeks(QPainter& painter, const Stage& stage) {
     constexpr double besideEyes = 16;
     constexpr double belowEyes = 15;
     const bool freckled = stage.day.traits.cheeks == wumble::WumbleCheeks::freckles;
-    const PainterScope scope(painter);
-    painter.setTransform(faceSeat(stage), true);
+    const QTransform face = faceSeat(stage);
     for (const double side : {-1.0, 1.0}) {
-        const PainterScope cheek(painter);
         const double eye = side < 0 ? eyeLeft : eyeRight;
-        painter.translate(eye + side * (besideEyes - stage.tweaks.cheekInset), eyeLevel + belowEyes);
+        const QPointF wanted(eye + side * besideEyes, eyeLevel + belowEyes);
+        const QPointF at = face.inverted().map(heldOnBody(face.map(wanted), stage));
+        const PainterScope scope(painter);
+        painter.setTransform(face, true);
+        painter.translate(at);
         painter.scale(-side, 1);
         painter.fillPath((freckled ? freckleCheek : blushCheek).path(), stage.colours.cheek(freckled));
     }

@@ -13,8 +13,12 @@ using Keys = std::initializer_list<Key>;
 
 double along(Keys keys, double t) { return track(std::span<const Key>(keys.begin(), keys.size()), t); }
 
-/// A swing that comes up and dies down within the gesture.
-double swing(double t, double times) { return std::sin(t * times * 2 * std::numbers::pi) * swell(t); }
+/// A swing that comes up and dies down within the gesture, and is at its widest where the gesture has its peak.
+double swing(WumbleGesture gesture, double t, double times) {
+    const double peak = wumble::peak(gesture);
+    const double presence = t < peak ? smooth(t / peak) : 1 - smooth((t - peak) / (1 - peak));
+    return std::cos((t - peak) * times * 2 * std::numbers::pi) * presence;
+}
 
 /// A squash that keeps the volume.
 Motion squashed(double up) { return {.across = 1 / std::sqrt(up), .up = up}; }
@@ -40,8 +44,8 @@ Motion stretch(double t) {
 
 Motion swaying(double t) {
     Motion pose;
-    pose.angle = 6.5 * swing(t, 2);
-    pose.offset.x = 5 * swing(t, 2);
+    pose.angle = 6.5 * swing(WumbleGesture::sway, t, 2);
+    pose.offset.x = 5 * swing(WumbleGesture::sway, t, 2);
     return pose;
 }
 
@@ -61,8 +65,8 @@ Motion waving(double t) {
 }
 
 Motion tidying(double t) {
-    Motion pose = squashed(1 + 0.03 * swing(t, 4));
-    pose.angle = 2.5 * swing(t, 2);
+    Motion pose = squashed(1 + 0.03 * swing(WumbleGesture::tidy, t, 4));
+    pose.angle = 2.5 * swing(WumbleGesture::tidy, t, 2);
     return pose;
 }
 
@@ -71,16 +75,16 @@ Motion booped(double t) {
 }
 
 Motion giggling(double t) {
-    Motion pose = squashed(1 + 0.055 * swing(t, 5));
-    pose.angle = 2.2 * swing(t, 2.5);
-    pose.offset.y = -3 * std::abs(swing(t, 2.5));
+    Motion pose = squashed(1 + 0.055 * swing(WumbleGesture::giggle, t, 5));
+    pose.angle = 2.2 * swing(WumbleGesture::giggle, t, 2.5);
+    pose.offset.y = -3 * std::abs(swing(WumbleGesture::giggle, t, 2.5));
     return pose;
 }
 
 Motion dizzied(double t) {
-    Motion pose = squashed(1 + 0.03 * swing(t, 4));
-    pose.angle = 8 * swing(t, 2);
-    pose.offset.x = 6 * swing(t, 2);
+    Motion pose = squashed(1 + 0.03 * swing(WumbleGesture::dizzy, t, 4));
+    pose.angle = 8 * swing(WumbleGesture::dizzy, t, 2);
+    pose.offset.x = 6 * swing(WumbleGesture::dizzy, t, 2);
     return pose;
 }
 
@@ -157,7 +161,7 @@ Paws foldedPaws(double t) {
 }
 
 Paws brushingPaws(double t) {
-    const double brush = swing(t, 4);
+    const double brush = swing(WumbleGesture::tidy, t, 4);
     return {{{-6 * swell(t), -8 * brush}, -10 * brush}, {{-6 * swell(t), 8 * brush}, 10 * brush}};
 }
 
@@ -177,7 +181,7 @@ Paws spreadPaws(double t) {
 }
 
 Paws swayingPaws(double t) {
-    const double aside = swing(t, 2);
+    const double aside = swing(WumbleGesture::sway, t, 2);
     return {{{-5 * aside, -3 * aside}, 0}, {{5 * aside, 3 * aside}, 0}};
 }
 

@@ -10,13 +10,11 @@ void JellyMemory::note(const Look& look, double t) {
     if (!looks_.empty() && looks_.back().t > t) {
         looks_.clear();
     }
-    const bool isLong = looks_.size() >= enough && looks_[1].t < t - kept;
+    const std::size_t half = (looks_.size() + 1) / 2;
+    const bool halfIsOld = looks_.size() >= enough && looks_[half].t < t - kept;
     looks_.push_back({t, look});
-    if (isLong) {
-        const auto half = static_cast<std::ptrdiff_t>(looks_.size() / 2);
-        const auto firstNeeded =
-            std::find_if(looks_.begin(), looks_.end(), [&](const auto& one) { return one.t >= t - kept; });
-        looks_.erase(looks_.begin(), std::min(looks_.begin() + half, firstNeeded));
+    if (halfIsOld) {
+        looks_.erase(looks_.begin(), looks_.begin() + static_cast<std::ptrdiff_t>(half));
     }
 }
 

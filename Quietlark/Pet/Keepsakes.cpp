@@ -32,9 +32,9 @@ constexpr std::array pencilLayers{edge(pencilRubber, 0xF48FA0),       edge(penci
 constexpr std::array lanternLayers{line(lanternHandle, 0x5B4034, 3.4), edge(lanternPaper, 0xF0714D),
                                    fill(lanternGlow, 0xFFDD8E), line(lanternBands, 0xCB5236, 2.4),
                                    edge(lanternCaps, 0x5B4034)};
-constexpr std::array dangoLayers{edge(dangoStick, 0xC99B62), edge(dangoBottom, 0xA6C97F),
-                                 edge(dangoMiddle, 0xFFF7E8), edge(dangoTop, 0xFFA9BA),
-                                 line(dangoBalls, 0xFFFFFF, 5, 0.75)};
+constexpr std::array dangoLayers{edge(dangoStick, 0xC99B62),  edge(dangoBottom, 0xA6C97F),
+                                 edge(dangoMiddle, 0xFFF7E8), line(dangoMiddle, 0xE6D3AE, 2.2),
+                                 edge(dangoTop, 0xFFA9BA),    line(dangoBalls, 0xFFFFFF, 5, 0.75)};
 constexpr std::array onigiriLayers{edge(onigiri, 0xFFFEFA), line(onigiri, 0xDCD2C2, 2.2),
                                    line(onigiriGrains, 0xE3DACB, 2.6), fill(onigiriNori, 0x35423A)};
 constexpr std::array darumaLayers{edge(daruma, 0xDB463F),           fill(darumaSpot, 0xFBE6CF),
@@ -63,7 +63,7 @@ constexpr std::array<Hold, 11> belongings{{
     {WumbleKeepsake::crane, craneLayers, {0, 2}, -3, 1.12, 50},
     {WumbleKeepsake::pencil, pencilLayers, {82, -18}, 26, 1.1, -34},
     {WumbleKeepsake::lantern, lanternLayers, {80, 0}, 6, 1.0, -70},
-    {WumbleKeepsake::dango, dangoLayers, {80, -26}, 24, 1.05, -34},
+    {WumbleKeepsake::dango, dangoLayers, {84, -34}, dangoTilt, 1, -38},
     {WumbleKeepsake::onigiri, onigiriLayers, {0, 5}, 4, 1.08, 36},
     {WumbleKeepsake::daruma, darumaLayers, {0, 6}, -3, 1, 35},
     {WumbleKeepsake::balloon, balloonLayers, {0, 0}, 0, 1, 0},

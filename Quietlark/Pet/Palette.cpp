@@ -66,7 +66,7 @@ QColor Palette::edge() const { return shade.darker(118); }
 
 QColor Palette::cheek(bool freckled) const {
     constexpr QRgb rose = 0xF2787F;
-    constexpr QRgb nut = 0xA5623F;
+    constexpr QRgb nut = 0x95522F;
     QColor colour = QColor::fromRgb(freckled ? nut : rose);
     colour.setAlphaF(freckled ? 0.75F : 0.5F);
     return colour;

@@ -9,7 +9,7 @@ namespace quietlark::SoftWumble {
 
 namespace {
 
-constexpr double rimWidth = 13;      ///< of the white stroke: half of it shows
+constexpr double rimWidth = 10;      ///< of the white stroke: half of it shows
 constexpr double keylineWidth = 2.6; ///< beyond the rim
 constexpr double thinnestLine = 0.8; ///< of the keyline, in pixels
 
@@ -34,7 +34,8 @@ void drawGroundShadow(QPainter& painter, const Stage& stage) {
     painter.drawEllipse(QPointF(134 + stage.motion.offset.x, 233), width / 2, 8 * (1 - lifted));
 }
 
-/// One after another: strokes that cross each other within one path take the rasterizer much longer.
+/// The body's outline comes first and is filled later; all other things lie on paper. One after another: strokes that
+/// cross each other within one path take the rasterizer much longer.
 void drawOutlines(QPainter& painter, const Stage& stage, std::span<const QPainterPath> outlines) {
     const double keyline = std::max(keylineWidth, thinnestLine / pixelsPerUnit(painter));
     const auto stroke = [&](const QColor& colour, double width) {
@@ -43,7 +44,11 @@ void drawOutlines(QPainter& painter, const Stage& stage, std::span<const QPainte
         }
     };
     stroke(stage.tweaks.stickerInk.value_or(stage.colours.ink), rimWidth + 2 * keyline);
-    stroke(stage.tweaks.stickerWhite.value_or(Qt::white), rimWidth);
+    const QColor paper = stage.tweaks.stickerWhite.value_or(Qt::white);
+    stroke(paper, rimWidth);
+    for (const QPainterPath& thing : outlines.subspan(1)) {
+        painter.fillPath(thing, paper);
+    }
 }
 
 /// The same body, a little up and to the left: what it leaves uncovered is in the shade.
@@ -57,19 +62,6 @@ QPainterPath shadeOf(const QPainterPath& body) {
 /// Marks that run over the edge take the shade of the body with them.
 constexpr QColor coatShade{110, 60, 30, 40};
 
-void drawHighlights(QPainter& painter, const Stage& stage) {
-    struct Light {
-        Art art;
-        double opacity;
-    };
-    constexpr std::array lights{Light{broadLight, 0.22}, Light{smallLight, 0.5}, Light{speckOfLight, 0.5}};
-    const PainterScope scope(painter);
-    for (const auto& [art, opacity] : lights) {
-        painter.setOpacity(opacity);
-        painter.fillPath(stage.soft.bendy(art.path()), stage.colours.light);
-    }
-}
-
 void drawBody(QPainter& painter, const Stage& stage) {
     const PainterScope scope(painter);
     painter.setTransform(stage.body, true);
@@ -80,7 +72,6 @@ void drawBody(QPainter& painter, const Stage& stage) {
     if (drawTexture(painter, stage) == Texture::overTheEdge) {
         painter.fillPath(shade, coatShade);
     }
-    drawHighlights(painter, stage);
 }
 
 /// What the pet has on it at the moment.
@@ -112,6 +103,28 @@ std::vector<QPainterPath> outlines(const Stage& stage, const Belongings& things)
     return paths;
 }
 
+/// What a thing leaves uncovered of a path.
+QPainterPath besides(const std::optional<Placed>& thing, const QPainterPath& path) {
+    const QPainterPath hidden = thing ? cover(*thing) : QPainterPath();
+    return hidden.intersects(path.boundingRect()) ? path.subtracted(hidden) : path;
+}
+
+/// The light lies on the dough, not on what the pet wears there.
+void drawHighlights(QPainter& painter, const Stage& stage, const Belongings& things) {
+    struct Light {
+        Art art;
+        double opacity;
+    };
+    constexpr std::array lights{Light{broadLight, 0.22}, Light{smallLight, 0.5}, Light{speckOfLight, 0.5}};
+    const PainterScope scope(painter);
+    painter.setClipPath(stage.outline, Qt::IntersectClip);
+    for (const auto& [art, opacity] : lights) {
+        const QPainterPath light = stage.body.map(stage.soft.bendy(art.path()));
+        painter.setOpacity(opacity);
+        painter.fillPath(besides(things.accessory, light), stage.colours.light);
+    }
+}
+
 void drawBelongings(QPainter& painter, const Stage& stage, const Belongings& things) {
     for (const auto* thing : {&things.talking, &things.accessory, &things.keepsake, &things.typing}) {
         if (*thing) {
@@ -120,9 +133,11 @@ void drawBelongings(QPainter& painter, const Stage& stage, const Belongings& thi
         }
     }
     drawPaws(painter, stage);
-    if (stage.pose.pointer) {
-        drawPointer(painter, stage);
-    }
+    drawHug(painter, stage);
+}
+
+bool drawsCheeks(const Tweaks& tweaks) {
+    return tweaks.parts == Parts::all || tweaks.cheeksWithBody == (tweaks.parts == Parts::body);
 }
 
 } // namespace
@@ -146,14 +161,19 @@ void draw(QPainter& painter, const QRectF& place, const wumble::WumbleDay& day, 
         }
         drawBody(painter, stage);
     }
-    if (tweaks.parts == Parts::all || tweaks.cheeksWithBody) {
-        drawCheeks(painter, stage);
-    }
     if (tweaks.parts != Parts::body) {
         drawFace(painter, stage);
     }
+    if (drawsCheeks(tweaks)) {
+        drawCheeks(painter, stage);
+    }
     if (tweaks.parts == Parts::all) {
         drawBelongings(painter, stage, things);
+    }
+    if (tweaks.parts != Parts::face) {
+        drawHighlights(painter, stage, things);
+    }
+    if (tweaks.parts == Parts::all) {
         drawEffects(painter, stage);
     }
 }

@@ -22,8 +22,8 @@ struct Tweaks {
     bool groundShadow = false;
     Parts parts = Parts::all;
     std::optional<double> bodyHeight; ///< instead of the height that the pet has grown to
-    double cheekInset = 0;            ///< how much closer to the middle the cheeks are
-    bool cheeksWithBody = false;      ///< cheeks are drawn where only the body is
+    double cheekInset = 26;           ///< how far the middle of a cheek stays from the body's edge
+    bool cheeksWithBody = false;      ///< of the parts, the body has the cheeks and not the face
 
     bool operator==(const Tweaks&) const = default;
 };

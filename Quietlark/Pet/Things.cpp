@@ -9,7 +9,7 @@ namespace quietlark::SoftWumble {
 
 namespace {
 
-constexpr std::array headsetLayers{Layer{headsetBand, 0x4B5268, 0, true},
+constexpr std::array headsetLayers{backing(headsetBacking), Layer{headsetBand, 0x4B5268, 0, true},
                                    Layer{headsetCup, 0x7FD8EA, 0, true}, Layer{headsetArm, 0x4B5268, 4.5},
                                    Layer{headsetMic, 0x4B5268, 10}};
 constexpr std::array keyboardLayers{Layer{keyboard, 0xE9E7F2, 0, true}, Layer{keyboardFront, 0xC3BFD6},
@@ -36,6 +36,12 @@ double typed(double side, const Stage& stage) {
                : 0;
 }
 
+/// A paw that holds something at its side can't hug.
+bool hugsWith(double side, const Stage& stage) {
+    const auto held = grip(stage);
+    return stage.pose.hug && (side < 0 || !held || held->left);
+}
+
 QTransform pawSeat(double side, const PawPose& paw, const Stage& stage) {
     const QPointF rest = restOf(side, stage);
     const QPointF at = rest + QPointF(side * paw.offset.x, paw.offset.y - typed(side, stage));
@@ -57,11 +63,18 @@ std::optional<Placed> typingOn(const Stage& stage) {
 }
 
 std::vector<QTransform> pawSeats(const Stage& stage) {
-    if (!stage.shows(wumble::RevealStep::arms) || stage.pose.hug) {
+    if (!stage.shows(wumble::RevealStep::arms)) {
         return {};
     }
     const Paws moved = paws(stage.pose.gesture, stage.pose.progress);
-    return {pawSeat(-1, moved.left, stage), pawSeat(1, moved.right, stage)};
+    std::vector<QTransform> seats;
+    if (!hugsWith(-1, stage)) {
+        seats.push_back(pawSeat(-1, moved.left, stage));
+    }
+    if (!hugsWith(1, stage)) {
+        seats.push_back(pawSeat(1, moved.right, stage));
+    }
+    return seats;
 }
 
 void drawLayers(QPainter& painter, const Stage& stage, const Placed& thing) {
@@ -72,26 +85,33 @@ void drawLayers(QPainter& painter, const Stage& stage, const Placed& thing) {
         if (layer.wrapped) {
             painter.setClipPath(thing.seat.inverted().map(stage.outline), Qt::IntersectClip);
         }
-        drawLayer(painter, stage, layer, layer.art.path());
+        drawLayer(painter, stage, layer, thing.bend.bendy(layer.art.path()));
     }
 }
 
-QPainterPath outline(const Placed& thing) {
+namespace {
+
+QPainterPath silhouette(const Placed& thing, bool withBacking) {
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
     for (const Layer& layer : thing.layers) {
-        if (layer.silhouette) {
-            path.addPath(thing.seat.map(layer.art.path()));
+        if (layer.silhouette && (withBacking || layer.opacity > 0)) {
+            path.addPath(thing.seat.map(thing.bend.bendy(layer.art.path())));
         }
     }
     return path;
 }
 
+} // namespace
+
+QPainterPath outline(const Placed& thing) { return silhouette(thing, true); }
+QPainterPath cover(const Placed& thing) { return silhouette(thing, false); }
+
 void drawContact(QPainter& painter, const Stage& stage, const Placed& thing) {
     constexpr QPointF fall{1.5, 5};
     const PainterScope scope(painter);
     painter.setClipPath(stage.outline, Qt::IntersectClip);
-    painter.fillPath(outline(thing).translated(fall), contactShade);
+    painter.fillPath(cover(thing).translated(fall), contactShade);
 }
 
 void drawPaws(QPainter& painter, const Stage& stage) {
@@ -104,14 +124,26 @@ void drawPaws(QPainter& painter, const Stage& stage) {
         painter.strokePath(bean.path(), line);
         painter.strokePath(beanToes.path(), line);
     }
-    if (!stage.pose.hug || !stage.shows(wumble::RevealStep::arms)) {
+}
+
+/// Two arms around the belly and what is held there.
+void drawHug(QPainter& painter, const Stage& stage) {
+    if (!stage.shows(wumble::RevealStep::arms)) {
         return;
     }
-    for (const auto& [x, side] : {std::pair(84.0, 1.0), std::pair(184.0, -1.0)}) {
+    constexpr double shoulder = 181;
+    constexpr double inwards = 4; ///< degrees
+    constexpr double armSize = 0.85;
+    for (const auto& [x, side] : {std::pair(70.0, 1.0), std::pair(198.0, -1.0)}) {
+        if (!hugsWith(-side, stage)) {
+            continue;
+        }
         const PainterScope scope(painter);
-        painter.setTransform(stage.seat({x, 203}, side * 6, 1.05).scale(side, 1), true);
+        painter.setTransform(stage.seat({x, shoulder}, side * inwards, armSize).scale(side, 1), true);
         painter.fillPath(hugArm.path(), stage.colours.body);
-        painter.strokePath(hugArm.path(), QPen(stage.colours.edge(), 2.6));
+        const QPen line(stage.colours.edge(), 3, Qt::SolidLine, Qt::RoundCap);
+        painter.strokePath(hugArm.path(), line);
+        painter.strokePath(hugToes.path(), line);
     }
 }
 

@@ -8,6 +8,7 @@ namespace quietlark::SoftWumble {
 struct Placed {
     Layers layers;
     QTransform seat;
+    Soft bend = {}; ///< of what is soft itself and goes with the dough
 };
 
 /// What the pet wears; absent before it has something, and while a headset takes its place.
@@ -27,7 +28,7 @@ std::optional<Grip> grip(const Stage& stage);
 std::optional<Placed> talkingWith(const Stage& stage);
 std::optional<Placed> typingOn(const Stage& stage);
 
-/// The two paws, from behind to front; none before the pet has some.
+/// The paws that are free of a hug, from behind to front; none before the pet has some.
 std::vector<QTransform> pawSeats(const Stage& stage);
 
 void drawLayers(QPainter& painter, const Stage& stage, const Placed& thing);
@@ -38,7 +39,11 @@ void drawContact(QPainter& painter, const Stage& stage, const Placed& thing);
 /// The outlines that the rim of the sticker goes around.
 QPainterPath outline(const Placed& thing);
 
+/// What a thing hides.
+QPainterPath cover(const Placed& thing);
+
 void drawPaws(QPainter& painter, const Stage& stage);
+void drawHug(QPainter& painter, const Stage& stage);
 void drawPointer(QPainter& painter, const Stage& stage);
 void drawEffects(QPainter& painter, const Stage& stage);
 

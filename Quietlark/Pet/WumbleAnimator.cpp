@@ -180,6 +180,7 @@ WumblePose sleeping(const Moment& moment) {
     const double down = wumble::Motion::settle.value(moment.elapsed / 2);
     pose.tall = -0.12 * down;
     pose.lean = -0.3 * down;
+    pose.hug = moment.day.shows(wumble::RevealStep::arms);
     pose.zzz = remainder(moment.elapsed / 5.6, 1);
     return pose;
 }

@@ -95,7 +95,11 @@ void WumbleView::setFamilyName(const QString& name) {
 }
 
 void WumbleView::setFollowsPointer(bool follows) { doing_.gazes = follows; }
-void WumbleView::setGaze(std::optional<wumble::Point> gaze) { gaze_ = gaze; }
+
+void WumbleView::setGaze(std::optional<wumble::Point> gaze) {
+    gaze_ = gaze;
+    update();
+}
 
 void WumbleView::setRoom(double room) {
     room_ = std::clamp(room, 0.0, 0.45);
@@ -108,7 +112,7 @@ void WumbleView::setPokable(bool pokable) {
     setAttribute(Qt::WA_TransparentForMouseEvents, !pokable);
 }
 
-/// "Wumble, a sakura pet with a straw hat", so that those who don't see it know which one it is.
+/// "Wumble, sakura pet, with a straw hat", so that those who don't see it know which one it is.
 void WumbleView::say() {
     const auto& day = doing_.day;
     const bool isClump = !day.shows(wumble::RevealStep::arms);
@@ -156,7 +160,8 @@ Look WumbleView::pointerLook() const {
     if (gaze_) {
         return {gaze_->x, 0.8 * gaze_->y, 0.5 * gaze_->x};
     }
-    const auto pointerAt = doing_.gazes && isVisible() && desktopPointer ? desktopPointer() : std::nullopt;
+    const bool follows = doing_.gazes && isVisible() && !appearanceOf(*this).reduceMotion;
+    const auto pointerAt = follows && desktopPointer ? desktopPointer() : std::nullopt;
     if (!pointerAt) {
         return {};
     }
@@ -166,9 +171,12 @@ Look WumbleView::pointerLook() const {
             0.6 * std::tanh(away.x() / (2 * scale))};
 }
 
-double WumbleView::pulledBy(double now) const {
+double WumbleView::pulledBy(double now, bool reduceMotion) const {
     if (pressedAt_) {
         return pull_;
+    }
+    if (reduceMotion) {
+        return 0;
     }
     return doing_.letGo && now - *doing_.letGo < settled ? pull_ * WumbleAnimator::letGo(now - *doing_.letGo)
                                                          : 0;
@@ -187,14 +195,14 @@ WumblePose WumbleView::firmPose(double now, const Look& pointer, bool reduceMoti
     pose.turn = {std::clamp(pose.turn.x + 0.8 * pointer.x, -1.0, 1.0),
                  std::clamp(pose.turn.y + 0.7 * pointer.y, -1.0, 1.0)};
     pose.lean = std::clamp(pose.lean + pointer.lean, -1.0, 1.0);
-    pose.pull = std::clamp(pose.pull + pulledBy(now), -1.0, 1.0);
+    pose.pull = std::clamp(pose.pull + pulledBy(now, reduceMotion), -1.0, 1.0);
     return pose;
 }
 
 WumblePose WumbleView::pose(double now) {
     const bool reduceMotion = appearanceOf(*this).reduceMotion;
     const WumbleJelly& jelly = jellyFor(reduceMotion);
-    const Look look = reduceMotion ? Look{} : pointerLook();
+    const Look look = pointerLook();
     memory_.note(look, now);
     memory_.keep(doing_);
     WumblePose firm = firmPose(now, look, reduceMotion);
@@ -222,8 +230,7 @@ bool WumbleView::isMoving(double now) const {
         return true;
     }
     const bool reacts = doing_.reaction && now < *doing_.reaction + duration(doing_.reactionGesture);
-    const bool swings = pressedAt_ || (doing_.letGo && now < *doing_.letGo + settled);
-    return reacts || swings || doing_.mood == wumble::WumbleMood::blinking ||
+    return reacts || doing_.mood == wumble::WumbleMood::blinking ||
            WumbleAnimator::untilBlink(now - clock_.start) == 0;
 }
 

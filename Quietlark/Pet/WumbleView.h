@@ -77,7 +77,7 @@ protected:
 private:
     WumblePose firmPose(double now, const Look& pointer, bool reduceMotion) const;
     Look pointerLook() const;
-    double pulledBy(double now) const;
+    double pulledBy(double now, bool reduceMotion) const;
     bool isLively(double now) const;
     void say();
     void nextFrame();

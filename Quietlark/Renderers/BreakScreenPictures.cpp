@@ -20,7 +20,7 @@ using wumble::WumbleSettings;
 constexpr double breakLength = 45;
 constexpr double settled = 2;       ///< seconds until all has arrived
 constexpr double unlocked = 12;     ///< and until a balanced break can be skipped
-constexpr double midFlight = 0.95;  ///< seconds into a reveal that grew the pet
+constexpr double midFlight = 1.25;  ///< seconds into a reveal that grew the pet
 constexpr double afterReveal = 2.6; ///< and until its paper has gone
 constexpr double frameLength = 1.0 / 30;
 constexpr int stripColumns = 4;

@@ -7,6 +7,8 @@ namespace quietlark {
 
 namespace {
 
+constexpr double headroom = 0.2; ///< of the box, above it: hats and jumps reach there
+
 template <class Case> Case roundTable(int place) {
     constexpr auto cases = wumble::allCases<Case>();
     return cases[static_cast<std::size_t>(place) % cases.size()];
@@ -27,7 +29,8 @@ wumble::WumbleDay samplePet(wumble::WumbleBase base, int revealed, int variety) 
 Cell petCell(std::string caption, const wumble::WumbleDay& day, const WumblePose& pose,
              Appearance appearance) {
     return {std::move(caption), [=](QPainter& painter, const QRectF& place) {
-                SoftWumble::draw(painter, place, day, pose, SoftWumble::Sticker::dieCut,
+                const QRectF box(place.left(), place.bottom() - place.width(), place.width(), place.width());
+                SoftWumble::draw(painter, box, day, pose, SoftWumble::Sticker::dieCut,
                                  stickerColours(appearance));
             }};
 }
@@ -35,6 +38,7 @@ Cell petCell(std::string caption, const wumble::WumbleDay& day, const WumblePose
 SheetLayout paper(Appearance appearance, int columns, double cell) {
     return {.columns = columns,
             .cell = cell,
+            .height = cell * (1 + headroom),
             .ground = colour(Role::page, appearance),
             .ink = colour(Role::text, appearance)};
 }

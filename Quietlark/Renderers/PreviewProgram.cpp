@@ -21,15 +21,15 @@ PreviewProgram::PreviewProgram(const Appearance& look, const PreviewStage::Choos
 
 void PreviewProgram::goAway(double seconds) {
     for (double away = 1; away <= seconds; ++away) {
-        stage.machine.idleSeconds = away;
+        stage.desktop.idleSeconds = away;
         stage.loop.advance(1);
     }
-    stage.machine.idleSeconds = 0;
+    stage.desktop.idleSeconds = 0;
     stage.advance(1);
 }
 
 void PreviewProgram::type(bool types) {
-    stage.machine.secondsSinceKeyDown = types ? std::optional(justNow) : std::nullopt;
+    stage.desktop.secondsSinceKeyDown = types ? std::optional(justNow) : std::nullopt;
 }
 
 } // namespace quietlark

@@ -42,7 +42,7 @@ std::filesystem::path furnish(const QTemporaryDir& folder, const PreviewStage::C
 } // namespace
 
 PreviewStage::PreviewStage(const Appearance& look, const Choose& choose, int revealed, int restDays)
-    : loop(monday), platform(makePreviewPlatform(machine)), host(screenSize), appearance(look),
+    : loop(monday), platform(platformOf(desktop)), host(screenSize), appearance(look),
       model(furnish(folder_, choose, revealed, restDays), {.mainLoop = loop,
                                                            .platform = platform,
                                                            .calendar = wumble::Calendar(),

@@ -2,8 +2,8 @@
 
 #include "Quietlark/ManualMainLoop.h"
 #include "Quietlark/Model/AppModel.h"
+#include "Quietlark/Platform/ManualDesktop.h"
 #include "Quietlark/Renderers/PreviewHost.h"
-#include "Quietlark/Renderers/PreviewPlatform.h"
 #include "Quietlark/Surfaces/SurfaceContext.h"
 
 #include <QProperty>
@@ -45,7 +45,7 @@ private:
 
 public:
     ManualMainLoop loop;
-    PreviewMachine machine;
+    ManualDesktop desktop;
     Platform platform;
     PreviewHost host;
     QProperty<Appearance> appearance;

@@ -117,7 +117,7 @@ const std::array scenes{
           }},
     Scene{"typing", 19.9,
           [](Show& show) {
-              show.stage.machine.secondsSinceKeyDown = 0.2;
+              show.stage.desktop.secondsSinceKeyDown = 0.2;
               show.stage.advance(12);
           }},
     Scene{"paused-for-an-hour", 4, [](Show& show) { show.stage.model.pause(3600, Asked::menu); }},

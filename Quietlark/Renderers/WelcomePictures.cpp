@@ -6,8 +6,8 @@
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "Quietlark/Welcome/WelcomeView.h"
 
-#include <array>
 #include <string>
+#include <vector>
 
 namespace quietlark {
 
@@ -22,17 +22,20 @@ struct NoLogin final : LoginItem {
     }
 };
 
-struct Scene {
-    const char* name;
-    std::vector<std::string_view> presses;
-};
+using Presses = std::vector<std::string_view>;
 
-const std::array scenes{
-    Scene{"welcome", {}},
-    Scene{"welcome-customized", {WelcomeWords::customize}},
-};
-
-QImage drawn(QWidget& view, double scale) {
+/// A whole view in front of the model of `stage`, after what is pressed in it.
+template <typename View> QImage picture(PreviewStage& stage, const Presses& presses, double scale) {
+    stage.start();
+    NoLogin login;
+    View view(stage.model, &login);
+    view.setAttribute(Qt::WA_DontShowOnScreen);
+    setAppearance(view, stage.appearance.value());
+    view.show();
+    for (const std::string_view name : presses) {
+        pressNamed(view, name);
+    }
+    stage.advance(0.5);
     view.resize(view.sizeHint());
     QImage image(view.size() * scale, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(scale);
@@ -41,49 +44,31 @@ QImage drawn(QWidget& view, double scale) {
     return image;
 }
 
-QImage picture(const Scene& scene, const Appearance& appearance, double scale) {
+QImage welcome(const Appearance& appearance, double scale, const Presses& presses = {}) {
     PreviewStage stage(
         appearance, [](auto&) {}, 0);
-    stage.start();
-    NoLogin login;
-    WelcomeView view(stage.model, &login);
-    view.setAttribute(Qt::WA_DontShowOnScreen);
-    setAppearance(view, appearance);
-    view.refresh();
-    view.show();
-    for (const std::string_view name : scene.presses) {
-        pressNamed(view, name);
-    }
-    stage.advance(0.5);
-    return drawn(view, scale);
+    return picture<WelcomeView>(stage, presses, scale);
 }
 
-QImage settingsPicture(const Appearance& appearance, double scale) {
+QImage settings(const Appearance& appearance, double scale) {
+    constexpr int revealed = 4;
     constexpr int restDays = 9;
     PreviewStage stage(
-        appearance, [](auto&) {}, 4, restDays);
-    stage.start();
-    NoLogin login;
-    SettingsView view(stage.model, &login);
-    view.setAttribute(Qt::WA_DontShowOnScreen);
-    setAppearance(view, appearance);
-    view.show();
-    stage.advance(0.5);
-    return drawn(view, scale);
+        appearance, [](auto&) {}, revealed, restDays);
+    return picture<SettingsView>(stage, {}, scale);
 }
 
 } // namespace
 
 bool renderWelcomePictures(const std::filesystem::path& folder, Appearance appearance) {
-    bool saved = true;
-    for (const Scene& scene : scenes) {
-        saved = save(picture(scene, appearance, 2), folder, std::string(scene.name) + ".png") && saved;
-    }
-    saved = save(picture(scenes.front(), appearance, 1), folder, "welcome-1x.png") && saved;
-    saved = save(settingsPicture(appearance, 2), folder, "settings.png") && saved;
+    const Presses customize{WelcomeWords::customize};
+    bool saved = save(welcome(appearance, 2), folder, "welcome.png");
+    saved = save(welcome(appearance, 1), folder, "welcome-1x.png") && saved;
+    saved = save(welcome(appearance, 2, customize), folder, "welcome-customized.png") && saved;
+    saved = save(settings(appearance, 2), folder, "settings.png") && saved;
     appearance.textScale = 1.5;
-    saved = save(settingsPicture(appearance, 1), folder, "settings-large-text.png") && saved;
-    return save(picture(scenes.back(), appearance, 1), folder, "welcome-large-text.png") && saved;
+    saved = save(settings(appearance, 1), folder, "settings-large-text.png") && saved;
+    return save(welcome(appearance, 1, customize), folder, "welcome-large-text.png") && saved;
 }
 
 } // namespace quietlark

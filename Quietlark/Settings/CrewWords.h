@@ -10,7 +10,6 @@ namespace quietlark::CrewWords {
 
 inline constexpr std::string_view yourCrew = "Your crew";
 inline constexpr std::string_view today = "Today";
-inline constexpr std::string_view noWumble = "no Wumble";
 
 /// "You met 3 Wumbles this week, and 2 grew all the way."
 std::string summary(const wumble::Recap& recap, wumble::Date now);

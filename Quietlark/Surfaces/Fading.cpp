@@ -18,9 +18,4 @@ void setFading(QWidget& widget, double opacity) {
     effect->setEnabled(opacity < 1);
 }
 
-double fadingOf(const QWidget& widget) {
-    const auto* effect = dynamic_cast<QGraphicsOpacityEffect*>(widget.graphicsEffect());
-    return effect == nullptr ? 1 : effect->opacity();
-}
-
 } // namespace quietlark

@@ -9,6 +9,14 @@ BreakEngine::BreakEngine(const WumbleSettings& settings, Date now, Calendar cale
     : settings_(settings.withHeldLengths()), snoozeDay_(calendar.startOfDay(now)), lastTick_(now),
       calendar_(std::move(calendar)), newId_(std::move(newId)) {}
 
+void BreakEngine::setCalendar(Calendar calendar) {
+    const bool isStillThatDay = calendar.day(lastTick_) == calendar_.day(snoozeDay_);
+    calendar_ = std::move(calendar);
+    if (isStillThatDay) {
+        snoozeDay_ = calendar_.startOfDay(lastTick_);
+    }
+}
+
 /// A quick break that would land just before the long one, or after it, is dropped; the long one keeps its
 /// own time. With both kinds off quick breaks still run: switching the engine off is `stop`.
 DueBreak BreakEngine::next(const WumbleSettings& settings, double carry) {

@@ -45,6 +45,9 @@ public:
         const WumbleSettings& settings, Date now, Calendar calendar,
         IdSource newId = [] { return UUID::random(); });
 
+    /// Its days are the days from here on. The counts of today stay, unless it is another day there.
+    void setCalendar(Calendar calendar);
+
     /// The events of this moment in the order in which they must be handled, mostly none.
     EngineEvents tick(const Signals& signals);
 

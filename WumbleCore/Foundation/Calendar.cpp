@@ -127,10 +127,6 @@ Date Calendar::startOfDay(CivilDay day) const { return moment(day, 0); }
 
 bool Calendar::hasDay(CivilDay day) const { return this->day(startOfDay(day)) == day; }
 
-DateInterval Calendar::dayInterval(Date date) const {
-    return {startOfDay(date), startOfDay(day(date) + std::chrono::days{1})};
-}
-
 DateInterval Calendar::weekInterval(Date date) const {
     const int daysIn = (weekday(date) - firstWeekday_ + 7) % 7;
     const CivilDay first = day(date) - std::chrono::days{daysIn};

@@ -57,7 +57,6 @@ public:
 
     bool isSameDay(Date a, Date b) const { return day(a) == day(b); }
 
-    DateInterval dayInterval(Date date) const;
     DateInterval weekInterval(Date date) const;
     DateInterval monthInterval(Date date) const;
 

@@ -18,15 +18,13 @@ constexpr std::array<std::pair<WumbleTone, WumbleTone>, 4> alikeTones{{
     {WumbleTone::orange, WumbleTone::yellow},
 }};
 
+WumbleTone tone(WumbleBase base) { return rowOf(wumbleBases, base).tone; }
+
 } // namespace
 
 std::span<const WumbleBase> dailyBases() { return std::span(everyBase).first(dailyCount); }
 
-std::span<const WumbleBase> specialBases() { return std::span(everyBase).subspan(dailyCount); }
-
 bool isSpecial(WumbleBase base) { return static_cast<std::size_t>(base) >= dailyCount; }
-
-WumbleTone tone(WumbleBase base) { return rowOf(wumbleBases, base).tone; }
 
 std::string name(WumbleBase base) {
     switch (base) {

@@ -84,11 +84,7 @@ template <> struct EnumTexts<WumbleBase> { static constexpr auto table = rawText
 /// The flavours that turn up by themselves, in declared order.
 std::span<const WumbleBase> dailyBases();
 
-/// The flavours that only a stored file brings.
-std::span<const WumbleBase> specialBases();
-
 bool isSpecial(WumbleBase base);
-WumbleTone tone(WumbleBase base);
 
 /// "Black Sesame"
 std::string name(WumbleBase base);

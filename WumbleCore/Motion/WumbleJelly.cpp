@@ -39,7 +39,11 @@ double orNone(double value) { return std::isnan(value) ? 0 : value; }
 } // namespace
 
 double WumbleJelly::memory() const {
-    return give == 0 ? 0 : std::min(memoryDecay / (angular(frequency) * damping), longestMemory);
+    const double decay = angular(frequency) * damping;
+    if (give == 0) {
+        return 0;
+    }
+    return decay > 0 ? std::min(memoryDecay / decay, longestMemory) : longestMemory;
 }
 
 int WumbleJelly::samples() const { return give == 0 ? 0 : static_cast<int>(memory() / step) + 2; }

@@ -26,7 +26,7 @@ struct WumbleJelly {
 
     bool operator==(const WumbleJelly&) const = default;
 
-    /// Seconds of history that matter.
+    /// Seconds of history that matter; the most there is for a spring that never settles.
     double memory() const;
 
     /// How many points of history `jiggle` wants.

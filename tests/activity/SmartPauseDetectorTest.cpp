@@ -1,5 +1,5 @@
 #include "Quietlark/Activity/SmartPauseDetector.h"
-#include "tests/support/FakePlatform.h"
+#include "Quietlark/Platform/ManualDesktop.h"
 
 #include <gtest/gtest.h>
 #include <thread>
@@ -41,8 +41,8 @@ protected:
     const AppRef call = app(20, "Talk", "org.talk");
     const AppRef dictation = app(30, "Dictate", "org.dictate.helper");
 
-    test::Desktop desktop;
-    Platform platform = test::platformOf(desktop);
+    ManualDesktop desktop;
+    Platform platform = platformOf(desktop);
     wumble::WumbleSettings settings;
     CaptureLog log{std::move(platform.captureLogRunner), [] { return noon; }};
     SmartPauseDetector detector{platform, log};

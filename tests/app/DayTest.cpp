@@ -68,6 +68,37 @@ TEST(Day, rollsAtMidnightAndTakesYesterdaysHeldRevealAway) {
     EXPECT_EQ(savedLife(driver).greetedDay, "2026-03-10");
 }
 
+TEST(Day, aRevealHeldOverANightInWhichTheMachineSleptIsGoneInTheMorning) {
+    ModelDriver driver([](auto&) {}, at("2026-03-09T17:00:00Z"));
+    driver.model().startBreak(wumble::BreakKind::shortBreak, std::nullopt);
+    driver.desktop.setSession({.displaysAsleep = true});
+    driver.desktop.idleSeconds = 60;
+    driver.run(60);
+    EXPECT_TRUE(driver.overlay.isUp);
+    driver.loop.suspend(15 * 3600);
+    driver.desktop.setSession({});
+    driver.desktop.idleSeconds = 0;
+    driver.told();
+    EXPECT_EQ(driver.run(1), (Told{"break screen leaves", "toast: Welcome back! | Fresh start: next break in "
+                                                          "20 min."}));
+    EXPECT_EQ(driver.state().today.value().day, "2026-03-10");
+}
+
+TEST(Day, isThatOfThePlaceToWhichThePersonMoves) {
+    ModelDriver driver([](auto& settings) { settings.snoozesPerDay = wumble::Limit::count(3); },
+                       at("2026-03-09T12:00:00Z"));
+    driver.model().snooze(60, Asked::menu);
+    driver.model().setCalendar(wumble::test::calendarIn("America/New_York"));
+    driver.run(1);
+    EXPECT_EQ(driver.state().today.value().day, today);
+    EXPECT_EQ(driver.state().snoozesRemaining.value(), 2) << "it is the same day there";
+    driver.model().setCalendar(wumble::test::calendarIn("Pacific/Auckland"));
+    driver.run(1);
+    EXPECT_EQ(driver.state().today.value().day, "2026-03-10");
+    EXPECT_EQ(driver.state().snoozesRemaining.value(), 3);
+    EXPECT_EQ(savedLife(driver).days.size(), 2U);
+}
+
 TEST(Day, recapsComeOneAMinuteTheMonthFirstAndNeverIntoAWait) {
     ModelDriver driver([](auto& settings) { settings.smartPauseAlerts = false; }, at("2026-06-01T08:00:00Z"));
     changeSaved(driver, [](auto& life) { wumble::test::addPet(life, "2026-05-28", 1); });

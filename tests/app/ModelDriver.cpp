@@ -10,13 +10,6 @@ std::filesystem::path quickFolder() {
     return std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
 }
 
-/// Never has a word on a capture, and nothing waits for one: what a test sees doesn't hang on the log's thread.
-struct UnreadableLog final : CaptureLogRunner {
-    bool launch(Received, Ended) override { return false; }
-    std::optional<std::string> lookBack() override { return std::nullopt; }
-    void terminate() override {}
-};
-
 } // namespace
 
 ModelDriver::ModelDriver(const std::function<void(wumble::WumbleSettings&)>& choose, wumble::Date start)
@@ -53,12 +46,6 @@ AppModelServices ModelDriver::services() {
             .accessibility = &accessibility,
             .calendar = calendar(),
             .random = choice()};
-}
-
-Platform ModelDriver::platform() {
-    Platform made = platformOf(desktop);
-    made.captureLogRunner = std::make_unique<UnreadableLog>();
-    return made;
 }
 
 std::string ModelDriver::status() { return statusLine(state(), calendar()); }

@@ -2,9 +2,9 @@
 
 #include "Quietlark/Model/AppModel.h"
 #include "Quietlark/Model/StatusLine.h"
+#include "Quietlark/Platform/ManualDesktop.h"
 #include "tests/app/RecordingSurfaces.h"
 #include "tests/support/Dates.h"
-#include "tests/support/FakePlatform.h"
 #include "tests/support/ManualMainLoop.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -43,7 +43,7 @@ public:
     AppModel& launch(AppModel::Running running = AppModel::Running::ticking);
 
     AppModelServices services();
-    Platform platform();
+    Platform platform() { return platformOf(desktop); }
 
     AppModel& model() { return model_ ? *model_ : launch(); }
     const AppState& state() { return model().state(); }
@@ -72,7 +72,7 @@ private:
 public:
     wumble::test::TemporaryFolder folder;
     ManualMainLoop loop;
-    Desktop desktop;
+    ManualDesktop desktop;
     RecordingStatusItem statusItem;
     RecordingHeadsUp headsUp{told_};
     RecordingOverlay overlay{told_};

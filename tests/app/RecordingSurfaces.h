@@ -16,9 +16,8 @@ using Told = std::vector<std::string>;
 struct RecordingStatusItem final : StatusItem {
     bool popoverShown = false;
     std::function<void()> closed = [] {};
-    int refreshes = 0;
 
-    void refresh() override { ++refreshes; }
+    void refresh() override {}
     bool isPopoverShown() const override { return popoverShown; }
     void closePopover() override {
         popoverShown = false;
@@ -91,14 +90,12 @@ struct RecordingOverlay final : BreakScreenPresenting {
         told_.push_back(activeBreak.isPreview() ? "preview screen"
                                                 : std::string(enumText(activeBreak.kind)) + " break screen");
     }
-    void hide(const std::optional<BreakScreenPhase>& showing) override {
+    void hide(const std::optional<BreakScreenPhase>&) override {
         isUp = false;
-        lastShowing = showing;
         told_.push_back("break screen leaves");
     }
 
     bool isUp = false;
-    std::optional<BreakScreenPhase> lastShowing;
 
 private:
     Told& told_;
@@ -119,9 +116,7 @@ private:
 struct RecordingAccessibility final : Accessibility {
     explicit RecordingAccessibility(Told& told) : told_(told) {}
     void announce(const std::string& sentence) override { told_.push_back("spoken: " + sentence); }
-    bool reducesMotion() const override { return stillness; }
-
-    bool stillness = false;
+    bool reducesMotion() const override { return false; }
 
 private:
     Told& told_;

@@ -102,7 +102,7 @@ private:
     }
 
     /// A spell of something that shows in the machine's answers.
-    void beginSpell(double seconds, const std::function<void(Desktop&)>& begin) {
+    void beginSpell(double seconds, const std::function<void(ManualDesktop&)>& begin) {
         endSpell();
         begin(driver_.desktop);
         spellEnds_ = driver_.loop.now() + seconds;

@@ -16,7 +16,7 @@ std::string PrivateLogind::whyNot() {
         return "systemd-logind isn't installed";
     }
     if (outputOf({"unshare", "-m", "sh", "-c", "mount -t tmpfs tmpfs /sys/power && echo mounted"}).empty()) {
-        return "no mount namespace can be made here";
+        return "folders can't be mounted for one process alone here, which root may";
     }
     const std::string imports = "import dbus, dbus.mainloop.glib, gi; print('there')";
     return outputOf({"/usr/bin/python3", "-c", imports}).empty()

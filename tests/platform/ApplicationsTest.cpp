@@ -1,8 +1,8 @@
 #include "Quietlark/Platform/Linux/Proc/LinuxAppIdentity.h"
 #include "Quietlark/Platform/Linux/Proc/LinuxApplications.h"
+#include "Quietlark/Platform/ManualDesktop.h"
 #include "WumbleCore/Activity/GameDetection.h"
 #include "WumbleCore/Foundation/Text.h"
-#include "tests/support/FakePlatform.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -45,8 +45,8 @@ protected:
     Processes processes{folder / "proc"};
     DesktopEntries entries{{folder / "own", folder / "share"}};
     LinuxAppIdentity identity{processes, entries};
-    test::Desktop desktop;
-    Platform platform = test::platformOf(desktop);
+    ManualDesktop desktop;
+    Platform platform = platformOf(desktop);
     LinuxApplications applications{*platform.windows, identity, processes, entries, {}};
 };
 

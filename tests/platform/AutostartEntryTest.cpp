@@ -53,6 +53,10 @@ TEST(AutostartEntry, tellsOfWhatItCannotWriteAndOfWhatTheDesktopSwitchedOff) {
     wumble::test::write(folder / "file", "");
     EXPECT_TRUE(AutostartEntry(folder / "file", "/usr/bin/quietlark", "/home/a").set(true).has_value());
     AutostartEntry entry(folder / "autostart", "/usr/bin/quietlark", "/home/a");
+    fs::create_directory(folder / "autostart");
+    fs::create_symlink("/dev/full", folder / "autostart/com.fernwick.quietlark.desktop");
+    EXPECT_TRUE(entry.set(true).has_value());
+    EXPECT_FALSE(entry.isEnabled());
     entry.set(true);
     std::ofstream(folder / "autostart/com.fernwick.quietlark.desktop", std::ios::app) << "Hidden=true\n";
     EXPECT_FALSE(entry.isEnabled());

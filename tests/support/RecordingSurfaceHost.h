@@ -115,10 +115,9 @@ public:
 
     bool blends() const override { return canBlend; }
 
-    std::optional<QImage> backdrop(const Screen&) const override { return backdropImage; }
+    std::optional<QImage> backdrop(const Screen&) const override { return std::nullopt; }
 
     std::unique_ptr<HostedSurface> host(std::unique_ptr<QWidget> view, const SurfaceStyle& style) override {
-        ++hosted;
         return std::make_unique<RecordedSurface>(std::move(view), style, surfaces_);
     }
 
@@ -142,8 +141,6 @@ public:
 
     std::optional<QPointF> pointerPlace = QPointF(700, 450);
     bool canBlend = true;
-    std::optional<QImage> backdropImage;
-    int hosted = 0; ///< calls of `host`
 
 private:
     using Observers = std::vector<std::weak_ptr<std::function<void()>>>;

@@ -13,7 +13,7 @@ namespace quietlark::test {
 class RecordingTrayItem : public TrayItem {
 public:
     bool isShown() const override { return shown; }
-    std::optional<bool> isPanelDark() const override { return panelDark; }
+    std::optional<bool> isPanelDark() const override { return std::nullopt; }
     void setPictures(std::vector<QImage> given) override {
         pictures = std::move(given);
         ++pictureWrites;
@@ -24,7 +24,6 @@ public:
     void observeActivation(Activated given) override { activated = std::move(given); }
 
     bool shown = true;
-    std::optional<bool> panelDark;
     std::vector<QImage> pictures;
     int pictureWrites = 0;
     std::vector<std::string> titles; ///< every one that was written

@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 std::string text(const Json& json) { return json.text().value_or("(unwritable)"); }
 
 /// Where `actual` lacks something of `expected`; empty when nothing is missing. An object may hold more than is
-/// expected of it, a list may not.
+/// expected of it, but for what is expected to be null, a list may not.
 std::string difference(const Json& expected, const Json& actual, const std::string& place = "answer") {
     constexpr double tolerance = 1e-9;
     std::string found;
@@ -26,8 +26,9 @@ std::string difference(const Json& expected, const Json& actual, const std::stri
         for (auto member = members->begin(); member != members->end() && found.empty(); ++member) {
             const auto inner = place + "." + member->first;
             const auto other = present->find(member->first);
-            found = other == present->end() ? inner + " is missing"
-                                            : difference(member->second, other->second, inner);
+            found = other != present->end()          ? difference(member->second, other->second, inner)
+                    : text(member->second) == "null" ? ""
+                                                     : inner + " is missing";
         }
         return found;
     }
@@ -94,6 +95,8 @@ TEST(Story, comparesWhatIsExpectedAndPassesOverWhatIsMore) {
     const Case cases[] = {
         {R"({"a":{"b":[1,{"c":2}]}})", R"({"a":{"b":[1.0000000001,{"c":2,"d":3}],"e":4}})", ""},
         {R"({"a":{"b":1}})", R"({"a":{}})", "answer.a.b is missing"},
+        {R"({"a":null})", "{}", ""},
+        {R"({"a":null})", R"({"a":1})", "answer.a is 1 and not null"},
         {R"({"a":[{}]})", R"({"a":[{},{}]})", "answer.a is [{},{}] and not [{}]"},
         {R"({"a":[]})", R"({"a":{}})", "answer.a is {} and not []"},
         {R"({"a":1})", R"({"a":true})", "answer.a is true and not 1"},

@@ -85,14 +85,14 @@ inline constexpr Art scarfBand{
 
 inline constexpr Art scarfFolds{"M52 196C80 206 108 210 134 210C164 210 196 206 220 195"};
 
-inline constexpr Art scarfTail{
-    "M70 198C80 202 90 203 98 202C100 216 100 230 97 242C87 245 76 244 67 240C65 226 66 210 70 198Z"};
+inline constexpr Art scarfTail{"M92 208C72 217 48 221 23 220C20 227 20 234 22 241C50 243 78 236 98 222Z"};
 
-inline constexpr Art scarfFringe{"M69 239L68 246M77 242L76.5 249M86 243L86 250M95 242L95.5 248"};
+inline constexpr Art scarfFringe{"M21 223L14 222.5M20.5 229L13 229.5M20.8 235L13.5 236.5M22 240L15.5 242.5"};
 
-inline constexpr Art scarfStripe{"M67.5 224C77 228 89 229 98.8 227"};
+inline constexpr Art scarfStripe{"M35 221.5C32.5 228 32.5 234 34.5 240.5"};
 
-inline constexpr Art strawBrim{"M-66 6C-66-6-32-13 0-13C32-13 66-6 66 6C66 17 32 20 0 20C-32 20-66 17-66 6Z"};
+/// What a hat lies on the dough with.
+inline constexpr Art itemRim{"M-66 6C-66-6-32-13 0-13C32-13 66-6 66 6C66 17 32 20 0 20C-32 20-66 17-66 6Z"};
 
 inline constexpr Art strawCrown{"M-36 4C-42-28-24-44 0-44C24-44 42-28 36 4C20 11-20 11-36 4Z"};
 
@@ -140,10 +140,17 @@ inline constexpr Art halo{
     "M0-44C24-44 44-38 44-29C44-20 24-14 0-14C-24-14-44-20-44-29C-44-38-24-44 0-44ZM0-34.5"
     "C-18-34.5-33-32-33-29C-33-26-18-23.5 0-23.5C18-23.5 33-26 33-29C33-32 18-34.5 0-34.5Z"};
 
+/// All of it, its hole too: a sticker isn't cut out there.
+inline constexpr Art haloBacking{
+    "M0-39C21-39 38.5-35 38.5-29C38.5-23 21-19 0-19C-21-19-38.5-23-38.5-29C-38.5-35-21-39 0-39Z"};
+
 inline constexpr Art haloShine{"M-36-34C-28-38-16-40-6-40.5"};
 
 inline constexpr Art headphoneBand{
     "M-95 70C-97 20-64-14 0-14C64-14 97 20 95 70L83 70C84 26 56-3 0-3C-56-3-84 26-83 70Z"};
+
+/// All that is under the band.
+inline constexpr Art headphoneBacking{"M-89 70C-91 24-61-8.5 0-8.5C61-8.5 91 24 89 70Z"};
 
 inline constexpr Art headphoneCups{
     "M-100 56C-92 50-80 52-77 60C-74 72-74 86-77 96C-80 104-92 106-100 100C-108 92-109 64-100 56Z"

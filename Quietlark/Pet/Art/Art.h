@@ -29,6 +29,9 @@ struct Layer {
     bool wrapped = false; ///< goes around the body: seen only where the body is
 };
 
+/// Nothing but paper: what lies within it isn't cut out of the sticker.
+constexpr Layer backing(Art art) { return {art, 0xFFFFFF, 0, true, 0}; }
+
 using Layers = std::span<const Layer>;
 
 } // namespace quietlark

@@ -2,6 +2,8 @@
 
 #include "Quietlark/Pet/Soft.h"
 
+#include <QTransform>
+
 namespace quietlark::SoftWumble {
 
 namespace {
@@ -43,25 +45,34 @@ constexpr std::array<Shape, 26> shapes{{
 }};
 static_assert(wumble::isInOrder(shapes));
 
-QPointF between(QPointF from, QPointF to, double x) {
-    const double width = to.x() - from.x();
-    return width == 0 ? from : from + (to - from) * ((x - from.x()) / width);
+/// The x of a line at that height.
+double crossing(QPointF from, QPointF to, double y) {
+    const double height = to.y() - from.y();
+    return height == 0 ? from.x() : from.x() + (to.x() - from.x()) * (y - from.y()) / height;
 }
+
+const QTransform mirrored(0, 1, 1, 0, 0, 0); ///< x and y change places
 
 } // namespace
 
 const QPainterPath& shape(WumbleBase base) { return wumble::rowOf(shapes, base).art.path(); }
 
 double crest(WumbleBase base, double x) {
-    const auto outline = shape(base).toFillPolygon();
-    double highest = Soft::floor;
-    for (qsizetype place = 1; place < outline.size(); ++place) {
-        const auto& [from, to] = std::pair(outline[place - 1], outline[place]);
-        if (std::min(from.x(), to.x()) <= x && x <= std::max(from.x(), to.x())) {
-            highest = std::min(highest, between(from, to, x).y());
+    const auto column = extentAt(mirrored.map(shape(base)), x);
+    return column ? column->from : Soft::floor;
+}
+
+std::optional<Extent> extentAt(const QPainterPath& outline, double y) {
+    const auto polygon = outline.toFillPolygon();
+    std::optional<Extent> extent;
+    for (qsizetype place = 1; place < polygon.size(); ++place) {
+        const auto& [from, to] = std::pair(polygon[place - 1], polygon[place]);
+        if (std::min(from.y(), to.y()) <= y && y <= std::max(from.y(), to.y())) {
+            const double x = crossing(from, to, y);
+            extent = extent ? Extent{std::min(extent->from, x), std::max(extent->to, x)} : Extent{x, x};
         }
     }
-    return highest;
+    return extent;
 }
 
 } // namespace quietlark::SoftWumble

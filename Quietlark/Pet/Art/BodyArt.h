@@ -3,6 +3,8 @@
 #include "Quietlark/Pet/Art/Art.h"
 #include "WumbleCore/Life/WumbleBase.h"
 
+#include <optional>
+
 /// The lumps of dough: wide, low, heavy at the floor, sagging a little over their own edge, with a top that
 /// is never an arc.
 namespace quietlark::SoftWumble {
@@ -62,5 +64,13 @@ const QPainterPath& shape(wumble::WumbleBase base);
 
 /// Where the outline of the straight body is highest at that x, in the box.
 double crest(wumble::WumbleBase base, double x);
+
+struct Extent {
+    double from;
+    double to;
+};
+
+/// From where to where an outline reaches at that height; absent where it doesn't.
+std::optional<Extent> extentAt(const QPainterPath& outline, double y);
 
 } // namespace quietlark::SoftWumble

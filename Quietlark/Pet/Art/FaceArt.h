@@ -36,11 +36,11 @@ inline constexpr Art smilingEyes{
     "M88.5 168.5C91.5 160 102.5 160 105.5 168.5M162.5 168.5C165.5 160 176.5 160 179.5 168.5"};
 inline constexpr Art blinkEyes{"M89 166C93 168.6 101 168.6 105 166M163 166C167 168.6 175 168.6 179 166"};
 inline constexpr Art winkEye{"M163 168.2C166.5 161.5 175.5 161.5 179 167.5"};
-inline constexpr Art droopyBowl{"M91.2 164.5C94.5 163.5 100 161.5 103 160C107 164 105 172.6 98.5 172.8"
-                                "C92 173 89.5 168.5 91.2 164.5ZM176.8 164.5C173.5 163.5 168 161.5 165 160"
-                                "C161 164 163 172.6 169.5 172.8C176 173 178.5 168.5 176.8 164.5Z"};
+inline constexpr Art droopyBowl{"M90.8 164.8C94 162.8 99 161.4 103 161.6C106.2 165.4 104.6 173 98.3 "
+                                "173.1C91.8 173.2 89.2 169 90.8 164.8ZM177.2 164.8C174 162.8 169 161.4 165 "
+                                "161.6C161.8 165.4 163.4 173 169.7 173.1C176.2 173.2 178.8 169 177.2 164.8Z"};
 inline constexpr Art droopyLid{
-    "M87.5 165.5C92 164.8 99 161.8 103.5 158.5M180.5 165.5C176 164.8 169 161.8 164.5 158.5"};
+    "M87 166.8C90.5 163.4 97.5 160.6 104.5 161.2M181 166.8C177.5 163.4 170.5 160.6 163.5 161.2"};
 /// A spiral around its own origin.
 inline constexpr Art dizzyEye{"M.5 0C1.8-.8 1.2-3-.8-2.8C-3.8-2.6-4 1.6-1.8 3C1.6 5 5.6 2.2 "
                               "5.2-1.6C4.8-5.8.2-7.6-3.2-6.4C-5.4-5.6-6.8-3.8-7.2-1.6"};
@@ -60,6 +60,9 @@ inline constexpr Art wavyMouth{"M123.5 178C126 174.2 129 174.6 131.5 177.4C134 1
 inline constexpr Art tinyMouth{
     "M134 173.5C136.6 173.5 138.2 175.4 138.2 177.9C138.2 180.6 136.5 182.3 134 182.3C131.5 182.3 129.8 "
     "180.6 129.8 177.9C129.8 175.4 131.4 173.5 134 173.5Z"};
+inline constexpr Art surprisedMouth{
+    "M134 172.4C137.3 172.4 139.3 175.2 139.3 178.8C139.3 182.6 137.2 185.2 134 185.2C130.8 185.2 128.7 "
+    "182.6 128.7 178.8C128.7 175.2 130.7 172.4 134 172.4Z"};
 inline constexpr Art happyMouth{
     "M124 174.5C129 176.2 139 176.2 144 174.5C145.2 174.2 145.8 175 145.5 176.2C144 182.4 139.6 186.3 134 "
     "186.3C128.4 186.3 124 182.4 122.5 176.2C122.2 175 122.8 174.2 124 174.5Z"};
@@ -85,7 +88,8 @@ inline constexpr Art beanShade{
 
 inline constexpr Art beanToes{"M-4.2 8.5L-4.2 13.5M4.4 8.5L4.4 13.5"};
 
-/// An arm laid over the belly, around its shoulder.
-inline constexpr Art hugArm{"M-16-12C-4-20 14-15 24-4C31 4 30 13 22 16C12 19.5-6 18-15 10C-22 4-23-7-16-12Z"};
+/// An arm laid over the belly, the left one around its shoulder; open where it comes out of the body.
+inline constexpr Art hugArm{"M-15 9C2 2 28 6 48 17C60 24 59 41 45 43C26 45 2 41-14 34"};
+inline constexpr Art hugToes{"M56 30L49 28M53 38.5L46.5 34.5"};
 
 } // namespace quietlark::SoftWumble

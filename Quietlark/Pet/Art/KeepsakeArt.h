@@ -26,7 +26,7 @@ inline constexpr Art teaDrink{
 
 inline constexpr Art teaBand{"M-21 1C-8 5 8 5 21 1L19 8C8 11-8 11-19 8Z"};
 
-inline constexpr Art teaSteam{"M20-24C17-28 23-31 20-36M27-20C24-24 30-27 27-32"};
+inline constexpr Art teaSteam{"M17-19C14.5-22 19.5-24 17-27.5M25-17C22.5-20 27.5-22 25-25.5"};
 
 inline constexpr Art heart{"M0 19C-39-1-20-30 0-12C20-31 39-1 0 19Z"};
 
@@ -92,6 +92,8 @@ inline constexpr Art lanternCaps{
     "C-16 25-16 18-14 18Z"};
 
 inline constexpr Art dangoStick{"M-6-50L6-50L6 36L-6 36Z"};
+
+inline constexpr double dangoTilt = 24; ///< degrees that the stick leans outwards
 
 inline constexpr Art dangoTop{
     "M0-46.5C8.6-46.5 15.5-40 15.5-32C15.5-24 8.6-17.5 0-17.5C-8.6-17.5-15.5-24-15.5-32"

@@ -17,8 +17,12 @@ inline constexpr Art keyboardKeys{
 inline constexpr Art headsetBand{
     "M-95 72C-97 20-64-13 0-13C64-13 97 20 95 72L86 72C87 24 58-5 0-5C-58-5-87 24-86 72Z"};
 
+/// All that is under the band.
+inline constexpr Art headsetBacking{"M-90 72C-92 23-61-9 0-9C61-9 92 23 90 72Z"};
+
 inline constexpr Art headsetCup{
-    "M99 58C91 53 82 55 80 62C77 72 77 84 80 93C82 100 91 102 99 97C106 90 107 66 99 58Z"};
+    "M99 58C91 53 82 55 80 62C77 72 77 84 80 93C82 100 91 102 99 97C106 90 107 66 99 58Z"
+    "M-98 64C-95 59-86 59-83 64C-81 71-81 79-83 85C-86 90-95 90-98 85C-100 79-100 71-98 64Z"};
 
 inline constexpr Art headsetArm{"M94 94C92 108 70 114 46 106"};
 

@@ -60,7 +60,7 @@ QSizeF faceSize(const QWidget& button) {
     return QSizeF(button.sizeHint()) - QSizeF(2 * PressControl::margin, 2 * PressControl::margin);
 }
 
-BreakControls::BreakControls(QWidget& parent, std::function<void(BreakControl)> pressed) {
+BreakControls::BreakControls(QWidget& parent, const std::function<void(BreakControl)>& pressed) {
     for (const Face& face : faces) {
         StickerButton* button = makeButton(face, parent);
         QObject::connect(button, &QAbstractButton::clicked, button,
@@ -72,6 +72,7 @@ BreakControls::BreakControls(QWidget& parent, std::function<void(BreakControl)> 
 
 std::vector<QSizeF> BreakControls::sizes(const std::vector<BreakControl>& controls) const {
     std::vector<QSizeF> sizes;
+    sizes.reserve(controls.size());
     for (const BreakControl control : controls) {
         sizes.push_back(faceSize(*buttons_.at(static_cast<std::size_t>(control))));
     }

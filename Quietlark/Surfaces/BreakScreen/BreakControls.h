@@ -15,7 +15,7 @@ namespace quietlark {
 class BreakControls {
 public:
     /// The buttons belong to `parent`.
-    BreakControls(QWidget& parent, std::function<void(BreakControl)> pressed);
+    BreakControls(QWidget& parent, const std::function<void(BreakControl)>& pressed);
 
     /// Without the air around them.
     std::vector<QSizeF> sizes(const std::vector<BreakControl>& controls) const;

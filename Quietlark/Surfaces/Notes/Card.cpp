@@ -16,7 +16,7 @@ void keepFor(double seconds, std::shared_ptr<Card> card, MainLoop& loop) {
 
 } // namespace
 
-void Card::setMapped(bool mayShow) {
+void Card::setMapped(bool mayShow) const {
     if (veil) {
         veil->surface().setMapped(mayShow);
     }

@@ -34,7 +34,7 @@ struct Card {
     std::shared_ptr<CardReach> reach; ///< absent: none
 
     /// Puts it on the screen with its veil, or takes both away for as long as others may see it.
-    void setMapped(bool mayShow);
+    void setMapped(bool mayShow) const;
 };
 
 /// Lets a note leave: it takes its leave as it came, then it is gone with its veil.

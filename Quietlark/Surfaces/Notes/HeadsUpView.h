@@ -63,7 +63,7 @@ private:
     void placeButtons(const Appearance& appearance);
     void morph();
     double morphed() const;
-    void drawWords(QPainter& painter, const Appearance& appearance) const;
+    void drawWords(QPainter& painter, const Appearance& wanted) const;
     void drawAnswer(QPainter& painter, const Appearance& appearance) const;
 
     const AppState& state_;

@@ -14,7 +14,7 @@ void collect(const QLayout& layout, QList<QWidget*>& found) {
             collect(*inner, found);
         } else if (QWidget* widget = item->widget()) {
             found.append(inReadingOrder(*widget));
-            if (widget->focusPolicy() & Qt::TabFocus) {
+            if ((widget->focusPolicy() & Qt::TabFocus) != 0) {
                 found.append(widget);
             }
         }

@@ -37,19 +37,11 @@ TEST(Toast, saysEachMessageInItsWords) {
         bool closable;
         double duration;
     };
-    const std::string fresh = "Welcome back!";
     const Case cases[] = {
-        {Toast::snoozed(60), "Snoozed for 1 min", "Got it! Wumble will hum to itself until then.",
-         WumbleMood::snoozed, false, 5.5},
         {Toast::afterThis(), "Snoozed for 5 min", "Got it! If you're still typing then, Wumble will wait.",
          WumbleMood::snoozed, false, 5.5},
-        {Toast::smartPause(activity::Meeting{"Zoom"}), "Wumble will wait",
-         "On a call in Zoom. Breaks wait until your call ends.", WumbleMood::humming, true, 5.5},
-        {Toast::welcomeBack(400, false, {}), fresh, "6 min away counts as a break.", WumbleMood::peek, true,
-         4},
-        {Toast::welcomeBack(3600, true, "Tiny bean paws!"), "Tiny bean paws!",
-         "Welcome back! 1 hr away counts as your long break.", WumbleMood::celebrate, true, 5.5},
-        {Toast::freshStart(1200), fresh, "Fresh start: next break in 20 min.", WumbleMood::peek, true, 4},
+        {Toast::welcomeBack(400, false, {}), "Welcome back!", "6 min away counts as a break.",
+         WumbleMood::peek, true, 4},
         {Toast::arrival({.day = "2026-03-09", .base = WumbleBase::thaiTea}), "Someone new is here",
          "A special thai tea clump showed up, just for today. Take a break to help it open its eyes.",
          WumbleMood::peek, true, 8.5},
@@ -73,16 +65,10 @@ TEST(Toast, saysEachMessageInItsWords) {
 
 TEST(Toast, invitesToARecap) {
     const Date start = at("2026-03-02T00:00:00Z");
-    const auto week = Toast::recap(Recap::Period::week, start, 1, 1);
-    EXPECT_EQ(week.title, "Your week with Wumble is ready");
-    EXPECT_EQ(week.subtitle, "1 Wumble · 1 break. Click to see them together.");
-    EXPECT_EQ(week.action, Toast::Action(Toast::OpenRecap{Recap::Period::week, start}));
-    EXPECT_EQ(week.duration, 14);
-    EXPECT_EQ(week.mood, WumbleMood::celebrate);
-    EXPECT_TRUE(week.closable);
     const auto month = Toast::recap(Recap::Period::month, start, 30, 0);
-    EXPECT_EQ(month.title, "Your month with Wumble is ready");
     EXPECT_EQ(month.subtitle, "30 Wumbles · 0 breaks. Click to see them together.");
+    EXPECT_EQ(month.action, Toast::Action(Toast::OpenRecap{Recap::Period::month, start}));
+    EXPECT_EQ(month.mood, WumbleMood::celebrate);
 }
 
 TEST(Toast, nudgesForTheirExerciseAndALittleLonger) {

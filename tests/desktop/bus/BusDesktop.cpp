@@ -2,7 +2,6 @@
 
 #include "Quietlark/Platform/Linux/DBus/Bus.h"
 
-#include <algorithm>
 #include <filesystem>
 
 namespace quietlark::test {
@@ -34,14 +33,13 @@ void BusTest::makeServices(const lab::PrivateBus* system) {
 
 void BusTest::refresh() {
     clock.seconds += 1;
-    QElapsedTimer timer;
-    timer.start();
-    services.session->refresh(clock.seconds);
-    services.sleepHolders->refresh(clock.seconds);
-    services.session->state();
-    services.sleepHolders->displaySleepHolders();
-    services.mutterIdle();
-    longestRound = std::max(longestRound, static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    waits.during([this] {
+        services.session->refresh(clock.seconds);
+        services.sleepHolders->refresh(clock.seconds);
+        services.session->state();
+        services.sleepHolders->displaySleepHolders();
+        services.mutterIdle();
+    });
 }
 
 bool BusTest::comesTrue(const std::function<bool()>& condition) {

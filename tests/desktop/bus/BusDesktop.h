@@ -4,9 +4,9 @@
 #include "tests/lab/LabProcess.h"
 #include "tests/lab/PrivateBus.h"
 #include "tests/lab/Spin.h"
+#include "tests/lab/Waits.h"
 
 #include <QByteArray>
-#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 namespace quietlark::test {
@@ -66,7 +66,7 @@ protected:
     PlainIdentity identity;
     std::optional<bool> sampledDisplays;
     BusServices services;
-    double longestRound = 0; ///< milliseconds
+    lab::Waits waits; ///< of a round
 };
 
 } // namespace quietlark::test

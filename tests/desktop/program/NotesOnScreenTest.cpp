@@ -1,6 +1,4 @@
 #include "tests/desktop/program/ProgramDesktop.h"
-#include "tests/lab/ScreenWindows.h"
-#include "tests/lab/Spin.h"
 
 namespace quietlark::lab {
 namespace {
@@ -10,28 +8,14 @@ constexpr int margin = 14; ///< of a note's window, around what is seen of it
 
 class NotesOnScreenTest : public ProgramDesktop {
 protected:
-    bool isUp(const std::string& name) const { return placeOf(name).has_value(); }
-    std::optional<WindowPlace> placeOf(const std::string& name) const { return windowPlace(*server, name); }
-    bool comes(const std::string& name) const {
-        return spinUntil([&] { return isUp(name); }, 20);
-    }
-    bool goes(const std::string& name, double seconds = 20) const {
-        return spinUntil([&] { return !isUp(name); }, seconds);
-    }
-
     /// A window of a program of the person's. It gets the keyboard.
     std::unique_ptr<LabProcess> open(const std::string& name, const std::string& geometry) const {
         auto terminal = start({"xterm", "-T", name, "-geometry", geometry, "-e", "cat"});
-        EXPECT_TRUE(comes(name));
-        bringToFront(*server, name);
+        EXPECT_TRUE(comesToTheFront(name));
         return terminal;
     }
     bool getsKeyboard(const std::string& name) const {
-        return spinUntil(
-            [&] {
-                return server->run({"xdotool", "getwindowfocus", "getwindowname"}) == name + "\n";
-            },
-            5);
+        return spinUntil([&] { return focusedWindow() == name + "\n"; }, 5);
     }
     void point(int x, int y) const {
         server->run({"xdotool", "mousemove", std::to_string(x), std::to_string(y)});

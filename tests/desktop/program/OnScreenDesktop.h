@@ -1,8 +1,6 @@
 #pragma once
 
 #include "tests/desktop/program/ProgramDesktop.h"
-#include "tests/lab/ScreenWindows.h"
-#include "tests/lab/Spin.h"
 
 namespace quietlark::lab {
 
@@ -11,15 +9,8 @@ inline constexpr auto breakScreen = "break-screen";
 /// A desktop with a person at it, who sees what comes on the screen, presses keys and clicks.
 class OnScreenDesktop : public ProgramDesktop {
 protected:
-    bool isUp(const std::string& name) const { return windowPlace(*server, name).has_value(); }
-    bool comes(const std::string& name, double seconds = 20) const {
-        return spinUntil([&] { return isUp(name); }, seconds);
-    }
-    bool goes(const std::string& name, double seconds = 20) const {
-        return spinUntil([&] { return !isUp(name); }, seconds);
-    }
     bool lies(const std::string& name, const WindowPlace& place, double seconds = 20) const {
-        return spinUntil([&] { return windowPlace(*server, name) == place; }, seconds);
+        return spinUntil([&] { return placeOf(name) == place; }, seconds);
     }
     void press(const std::string& key) const { server->run({"xdotool", "key", key}); }
     void type(const std::string& text) const { server->run({"xdotool", "type", text}); }
@@ -51,11 +42,9 @@ protected:
     std::unique_ptr<LabProcess> openEditor() const {
         auto editor = start({"xterm", "-T", "Editor", "-maximized", "-e",
                              "cat > '" + (home->home() / "typed").string() + "'"});
-        EXPECT_TRUE(comes("Editor"));
-        bringToFront(*server, "Editor");
+        EXPECT_TRUE(comesToTheFront("Editor"));
         return editor;
     }
-    std::string focusedWindow() const { return server->run({"xdotool", "getwindowfocus", "getwindowname"}); }
     std::string typed() const { return wumble::test::bytesOf(home->home() / "typed"); }
 
     /// Whether the keys that are pressed now come to the editor, and none of those before did.

@@ -27,6 +27,7 @@ TEST_F(OnScreenTest, aPreviewCoversTheScreenAndLeavesByEscapeOrItsButtonAndTheKe
     program->end();
     program = home->start({"--demo-break"});
     ASSERT_TRUE(comes(breakScreen)) << home->errors();
+    ASSERT_TRUE(spinUntil([&] { return focusedWindow() != "Editor\n"; }));
     type("stray\n");
     press("Escape");
     EXPECT_TRUE(goes(breakScreen));

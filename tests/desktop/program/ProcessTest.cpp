@@ -1,5 +1,6 @@
 #include "WumbleCore/Foundation/Calendar.h"
 #include "tests/desktop/program/ProgramHome.h"
+#include "tests/lab/PrivateBus.h"
 #include "tests/lab/Spin.h"
 
 #include <csignal>
@@ -71,12 +72,49 @@ TEST(Process, countsTheDaysOfThePlaceWhereItRuns) {
     EXPECT_EQ(days.size(), 2U);
 }
 
+TEST(Process, followsTheMachineToAnotherTimeZone) {
+    if (outputOf({"unshare", "-m", "sh", "-c", "mount --bind /tmp /tmp && echo mounted"}).empty()) {
+        GTEST_SKIP() << "no mount namespace can be made here";
+    }
+    const ProgramHome home;
+    const fs::path settings = home.home() / "etc"; // in the place of the machine's own
+    const auto moveTo = [&](const std::string& zone) {
+        fs::create_symlink("/usr/share/zoneinfo/" + zone, settings / "new");
+        fs::rename(settings / "new", settings / "localtime");
+    };
+    fs::create_directories(settings);
+    moveTo("Pacific/Pago_Pago");
+    Environment inNoZone = home.environment();
+    inNoZone["TZ"] = "";
+    LabProcess program({"unshare", "-m", "sh", "-c", "mount --bind \"$0\" /etc && exec \"$1\"",
+                        settings.string(), QUIETLARK_PROGRAM},
+                       inNoZone, home.home().string());
+    ASSERT_TRUE(spinUntil([&] { return takesSignals(program) && hasStarted(home); }));
+    moveTo("Pacific/Kiritimati"); // where it is tomorrow at least
+    EXPECT_TRUE(spinUntil([&] { return wumble::Storage(home.data()).loadLife().days.size() == 2; }));
+}
+
 TEST(Process, runsWithoutAnyServiceAndInAFolderThatCannotBeWritten) {
     const ProgramHome home;
     const auto program = home.start({}, {{"WUMBLE_DATA_DIR", "/proc/nowhere"}});
     ASSERT_TRUE(spinUntil([&] { return takesSignals(*program); }));
     program->signal(SIGTERM);
     EXPECT_EQ(program->wait(), 0);
+}
+
+TEST(Process, livesAndEndsThoughABusStandsStill) {
+    LAB_NEEDS("dbus-daemon");
+    const PrivateBus bus;
+    for (const Environment& standing : {bus.asSystem(), bus.asSession()}) {
+        bus.freeze();
+        const ProgramHome home(standing);
+        home.remember(shortDay());
+        const auto program = home.start();
+        EXPECT_TRUE(spinUntil([&] { return !home.history().empty(); }));
+        program->signal(SIGTERM);
+        EXPECT_EQ(program->wait(), 0);
+        bus.thaw();
+    }
 }
 
 TEST(Process, comesBackRightHoweverOftenItIsKilled) {

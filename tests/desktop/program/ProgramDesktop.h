@@ -1,15 +1,13 @@
 #pragma once
 
+#include "tests/desktop/program/AtTheScreen.h"
 #include "tests/desktop/program/ProgramHome.h"
 #include "tests/lab/SoundLab.h"
-#include "tests/lab/XServer.h"
-
-#include <gtest/gtest.h>
 
 namespace quietlark::lab {
 
 /// A plain desktop of its own, with a home for the program on it: an X server, a window manager, a sound server.
-class ProgramDesktop : public testing::Test {
+class ProgramDesktop : public AtTheScreen {
 protected:
     void SetUp() override {
         for (const char* program : {"Xvfb", "openbox", "xdotool", "xterm", "pipewire", "wireplumber",
@@ -33,7 +31,6 @@ protected:
     }
 
     SoundLab sound;
-    std::unique_ptr<XServer> server;
     std::unique_ptr<LabProcess> manager;
     std::unique_ptr<ProgramHome> home;
 };

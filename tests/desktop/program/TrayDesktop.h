@@ -1,16 +1,14 @@
 #pragma once
 
+#include "tests/desktop/program/AtTheScreen.h"
 #include "tests/desktop/program/ProgramHome.h"
 #include "tests/lab/ScreenReader.h"
-#include "tests/lab/Spin.h"
-
-#include <gtest/gtest.h>
 
 namespace quietlark::lab {
 
 /// A desktop with a bus and an open editor, on which each test puts the panel it wants, and somebody who looks at the
 /// program's windows and clicks on what they find there.
-class TrayDesktop : public testing::Test {
+class TrayDesktop : public AtTheScreen {
 protected:
     static constexpr auto theEditor = "Editor\n";
 
@@ -38,21 +36,6 @@ protected:
         return std::make_unique<LabProcess>(command, all);
     }
 
-    bool isUp(const std::string& window) const { return windowPlace(*server, window).has_value(); }
-    bool comes(const std::string& window) const {
-        return spinUntil([&] { return isUp(window); }, 20);
-    }
-    bool goes(const std::string& window) const {
-        return spinUntil([&] { return !isUp(window); }, 20);
-    }
-    /// Whether the window came, stands where the window manager wants it, and has the keys.
-    bool comesToTheFront(const std::string& window) const {
-        if (!comes(window)) {
-            return false;
-        }
-        bringToFront(*server, window);
-        return true;
-    }
     void clickAt(int x, int y, const char* button = "1") const {
         server->run({"xdotool", "mousemove", std::to_string(x), std::to_string(y), "click", button});
     }
@@ -64,7 +47,6 @@ protected:
     bool sees(const std::string& control) const {
         return spinUntil([&] { return reader->find(control).has_value(); });
     }
-    std::string focusedWindow() const { return server->run({"xdotool", "getwindowfocus", "getwindowname"}); }
 
     /// As the desktop does when the person starts the program again.
     void activate() const {
@@ -73,7 +55,6 @@ protected:
                  bus->asSession());
     }
 
-    std::unique_ptr<XServer> server;
     std::unique_ptr<PrivateBus> bus;
     std::unique_ptr<ScreenReader> reader;
     std::unique_ptr<ProgramHome> home;

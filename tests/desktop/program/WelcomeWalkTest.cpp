@@ -41,6 +41,8 @@ TEST_F(WelcomeWalkTest, closedHalfWayItAsksAgainAndStartingByMouseSetsTheRhythm)
     ASSERT_TRUE(reader->press("every 30 min"));
     ASSERT_TRUE(reader->press("customize"));
     ASSERT_TRUE(reader->press("1 min"));
+    ASSERT_TRUE(reader->press("10 min"));
+    ASSERT_TRUE(reader->press("2"));
     ASSERT_TRUE(reader->press("Open Quietlark when I log in"));
     ASSERT_TRUE(reader->press("Start breaks"));
     EXPECT_TRUE(goes(welcome));
@@ -50,7 +52,9 @@ TEST_F(WelcomeWalkTest, closedHalfWayItAsksAgainAndStartingByMouseSetsTheRhythm)
     const auto settings = wumble::Storage(home->data()).loadSettings();
     EXPECT_EQ(settings.workInterval, 1800);
     EXPECT_EQ(settings.shortBreakDuration, 60);
-    EXPECT_EQ(settings.moveInterval, 5400);
+    EXPECT_EQ(settings.moveInterval, 5400) << "after as many quick breaks as before";
+    EXPECT_EQ(settings.longBreakDuration, 600);
+    EXPECT_EQ(settings.nudgesBetween, 2);
     EXPECT_TRUE(home->history().empty());
 
     program = home->start();

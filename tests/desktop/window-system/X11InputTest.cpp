@@ -9,17 +9,19 @@ using X11Input = test::XSession;
 TEST_F(X11Input, keysAndThePointersWayEndIdleTime) {
     EXPECT_FALSE(input->secondsSinceKeyDown());
     ASSERT_TRUE(until([this] { return input->secondsSinceAnyInput() > 0.4; }));
+    const double beforeTheKey = test::uptime();
     server->run({"xdotool", "key", "a"});
-    const double pressed = test::uptime();
+    const double afterTheKey = test::uptime();
     ASSERT_TRUE(until([this] { return input->secondsSinceKeyDown().has_value(); }));
-    EXPECT_LT(*input->secondsSinceAnyInput(), 0.4);
+    EXPECT_LT(*input->secondsSinceAnyInput(), desktop->uptime() - beforeTheKey);
     ASSERT_TRUE(until([this] { return input->secondsSinceAnyInput() > 0.4; }));
-    EXPECT_NEAR(*input->secondsSinceKeyDown(), desktop->uptime() - pressed, 0.3);
+    EXPECT_NEAR(*input->secondsSinceKeyDown(), desktop->uptime() - afterTheKey, 1);
 
-    const double beforeTheMove = *input->secondsSinceKeyDown();
+    const double keyDown = *input->secondsSinceKeyDown();
+    const double beforeTheMove = test::uptime();
     server->run({"xdotool", "mousemove", "100", "100"});
-    EXPECT_TRUE(until([this] { return input->secondsSinceAnyInput() < 0.2; }));
-    EXPECT_GE(*input->secondsSinceKeyDown(), beforeTheMove) << "a move of the pointer presses no key";
+    EXPECT_TRUE(until([&] { return input->secondsSinceAnyInput() < desktop->uptime() - beforeTheMove; }));
+    EXPECT_GE(*input->secondsSinceKeyDown(), keyDown) << "a move of the pointer presses no key";
     EXPECT_FALSE(input->secondsSinceLeftMouseDown());
 }
 
@@ -28,9 +30,10 @@ TEST_F(X11Input, eachButtonHasItsTimesAndIsHeldUntilItIsLetGo) {
         return until(
             [=, this] { return input->leftButtonHeld() == left && input->rightButtonHeld() == right; });
     };
+    const double before = test::uptime();
     server->run({"xdotool", "mousedown", "1"});
     EXPECT_TRUE(held(true, false));
-    EXPECT_LT(*input->secondsSinceLeftMouseDown(), 2);
+    EXPECT_LT(*input->secondsSinceLeftMouseDown(), desktop->uptime() - before);
     EXPECT_FALSE(input->secondsSinceRightMouseDown());
     server->run({"xdotool", "mousedown", "3"});
     EXPECT_TRUE(held(true, true));

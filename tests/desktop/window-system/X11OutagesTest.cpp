@@ -1,4 +1,5 @@
 #include "tests/desktop/window-system/XSession.h"
+#include "tests/lab/Waits.h"
 
 #include <csignal>
 
@@ -6,7 +7,7 @@ namespace quietlark {
 
 namespace {
 
-/// Rounds that ask, while the server answers nothing.
+/// A server that answers nothing, while it is asked again and again.
 class X11Outages : public test::XSession {
 protected:
     void SetUp() override {
@@ -17,13 +18,13 @@ protected:
         }
     }
 
-    test::RoundTimes roundsInSilence() {
-        test::RoundTimes times;
+    void expectThatNothingWaits() {
+        lab::Waits waits;
         for (int round = 0; round < 40; ++round) {
-            times.measure([this] { refresh(); });
-            times.measure([this] { windows->rectanglesOfProgram(terminal); });
+            waits.during([this] { refresh(); });
+            waits.during([this] { windows->rectanglesOfProgram(terminal); });
         }
-        return times;
+        waits.expectShort();
     }
 
     void expectAnswersAgain() {
@@ -42,7 +43,7 @@ TEST_F(X11Outages, aClientThatKeepsTheServerForItselfDelaysNobody) {
     xcb_grab_server(greedy->get());
     std::free(xcb_get_input_focus_reply(greedy->get(), xcb_get_input_focus(greedy->get()), nullptr));
     const double idleBefore = *input->secondsSinceAnyInput();
-    EXPECT_TRUE(roundsInSilence().areBounded());
+    expectThatNothingWaits();
     EXPECT_GT(*input->secondsSinceAnyInput(), idleBefore) << "idle time grows from what was known";
     xcb_ungrab_server(greedy->get());
     xcb_flush(greedy->get());
@@ -51,10 +52,10 @@ TEST_F(X11Outages, aClientThatKeepsTheServerForItselfDelaysNobody) {
 
 TEST_F(X11Outages, aServerThatStandsStillDelaysNobody) {
     server->process().signal(SIGSTOP);
-    EXPECT_TRUE(roundsInSilence().areBounded());
-    test::RoundTimes beginning;
-    beginning.measure([this] { X11Desktop(server->display()).refresh(1); });
-    EXPECT_LT(beginning.longestComputing, 0.005) << "connecting waits for nobody either";
+    expectThatNothingWaits();
+    lab::Waits beginning;
+    beginning.during([this] { X11Desktop(server->display()).refresh(1); });
+    EXPECT_LT(beginning.longest(), 100) << "connecting waits for nobody either";
     server->process().signal(SIGCONT);
     expectAnswersAgain();
 }
@@ -67,7 +68,7 @@ TEST_F(X11Outages, aServerThatDiesIsLookedForAgain) {
     EXPECT_TRUE(windows->rectanglesOfProgram(terminal).empty());
     EXPECT_FALSE(input->leftButtonHeld());
     windows->activate(terminal);
-    EXPECT_TRUE(roundsInSilence().areBounded());
+    expectThatNothingWaits();
 
     manager.reset();
     clients.clear();

@@ -35,53 +35,18 @@ protected:
         manager->readLine();
         icon = std::make_unique<XEmbedIcon>(server->display());
         icon->setPictures({picture(16), picture(32)});
-        icon->observeActivation(
-            [this](std::optional<QPointF> place) { clicks.push_back(place.value_or(QPointF())); });
-    }
-
-    void startPanel() {
-        panel = std::make_unique<lab::LabProcess>(
-            std::vector<std::string>{"tint2", "-c", (folder / "tint2rc").string()}, server->environment());
     }
 
     bool comesTrue(const std::function<bool()>& condition) { return lab::spinUntil(condition, 15); }
 
-    void click(const std::string& button) const {
-        server->run({"xdotool", "search", "--class", "quietlark", "mousemove", "--window", "%1", "6", "7",
-                     "click", button});
-    }
-
     wumble::test::TemporaryFolder folder;
     std::unique_ptr<lab::XServer> server;
     std::unique_ptr<lab::LabProcess> manager;
-    std::unique_ptr<lab::LabProcess> panel;
     std::unique_ptr<XEmbedIcon> icon;
-    std::vector<QPointF> clicks;
 };
 
-TEST_F(XEmbedIconTest, waitsForAPanelIsClickedInItAndFindsTheNextOne) {
-    icon->setWanted(true);
-    for (const char* which : {"the first", "the one after it"}) {
-        SCOPED_TRACE(which);
-        EXPECT_FALSE(icon->isShown());
-        startPanel();
-        ASSERT_TRUE(comesTrue([&] { return icon->isShown(); }));
-        clicks.clear();
-        ASSERT_TRUE(comesTrue([&] {
-            if (clicks.empty()) {
-                click("1");
-            }
-            return !clicks.empty();
-        }));
-        EXPECT_LT(clicks.front().y(), 40);
-        EXPECT_GT(clicks.front().x(), 0);
-        panel.reset();
-        EXPECT_TRUE(comesTrue([&] { return !icon->isShown(); }));
-    }
-}
-
 TEST_F(XEmbedIconTest, leavesThePanelWhenItIsNotWantedAndComesBack) {
-    startPanel();
+    const lab::LabProcess panel({"tint2", "-c", (folder / "tint2rc").string()}, server->environment());
     icon->setWanted(true);
     ASSERT_TRUE(comesTrue([&] { return icon->isShown(); }));
     icon->setWanted(false);

@@ -111,6 +111,8 @@ TEST(SoftWumble, partsDrawTheBodyOrTheFaceAlone) {
     EXPECT_GT(inked(body).width(), 70);
     EXPECT_LT(
         difference(body, drawn(petOf(WumbleBase::mame, 0), {}, 108, {.parts = SoftWumble::Parts::body})), 20);
+    const QImage cheekless = drawn(day, {}, 108, {.parts = SoftWumble::Parts::face, .cheeksWithBody = true});
+    EXPECT_LT(inked(cheekless).width(), inked(face).width() - 4);
     const QImage faceless = drawn(petOf(WumbleBase::plain, 0), {}, 108, {.parts = SoftWumble::Parts::face});
     EXPECT_TRUE(inked(faceless).isNull());
 }

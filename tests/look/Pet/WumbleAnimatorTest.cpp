@@ -76,6 +76,18 @@ TEST(WumbleAnimator, aGestureBeginsAndEndsAtRest) {
     }
 }
 
+TEST(WumbleAnimator, aSwingIsWidestAtThePeakOfItsGesture) {
+    for (const auto gesture :
+         {WumbleGesture::sway, WumbleGesture::tidy, WumbleGesture::giggle, WumbleGesture::dizzy}) {
+        double widest = 0;
+        for (double t = 0; t <= 1; t += 0.01) {
+            widest = std::max(widest, std::abs(SoftWumble::motion(gesture, t, {}, 6).angle));
+        }
+        EXPECT_NEAR(SoftWumble::motion(gesture, peak(gesture), {}, 6).angle, widest, 0.1)
+            << enumText(gesture);
+    }
+}
+
 TEST(WumbleAnimator, squashKeepsTheVolume) {
     for (const auto gesture : wumble::allCases<WumbleGesture>()) {
         for (double t = 0; t <= 1; t += 0.05) {

@@ -142,6 +142,8 @@ TEST(WumbleView, itGazesWhereItIsTold) {
     EXPECT_DOUBLE_EQ(pose.lookY, 0.4);
     EXPECT_DOUBLE_EQ(pose.lean, 0.5);
     EXPECT_NEAR(pose.sway, 0.5 * 12, 0.5);
+    stage.view.setAppearance({.reduceMotion = true});
+    EXPECT_DOUBLE_EQ(stage.view.pose(1).look, 1);
 }
 
 TEST(WumbleView, withReducedMotionItStandsStillButForItsFace) {

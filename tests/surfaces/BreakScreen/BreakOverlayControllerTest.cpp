@@ -45,7 +45,7 @@ TEST(BreakOverlay, itsFirstMomentsTakeNoKeyButEscape) {
     }
     EXPECT_TRUE(overlay.isOnBreak());
     EXPECT_EQ(overlay.view().focusWidget(), &overlay.view()) << "nothing has the keyboard";
-    overlay.button("Skip").click();
+    overlay.click("Skip");
     EXPECT_TRUE(overlay.isOnBreak()) << "nor are the buttons there yet";
     overlay.press(Qt::Key_Escape);
     EXPECT_EQ(overlay.hint(), "Press Esc once more to skip");
@@ -69,19 +69,6 @@ TEST(BreakOverlay, escapeSnoozesWhereThePersonChoseThat) {
     overlay.press(Qt::Key_Escape);
     EXPECT_FALSE(overlay.isOnBreak());
     EXPECT_NEAR(overlay.driver.model().engine().secondsUntilBreak(), 300, 1);
-}
-
-TEST(BreakOverlay, aHardcoreBreakEndsByFivePresses) {
-    Overlay overlay([](WumbleSettings& settings) { settings.enforcement = Enforcement::hardcore; });
-    overlay.rest(10);
-    for (int press = 0; press < 4; ++press) {
-        overlay.press(Qt::Key_Escape);
-        overlay.driver.loop.advance(2.9);
-    }
-    EXPECT_TRUE(overlay.isOnBreak());
-    EXPECT_EQ(overlay.hint(), "No skipping · press Esc once more for an emergency exit");
-    overlay.press(Qt::Key_Escape);
-    EXPECT_FALSE(overlay.isOnBreak());
 }
 
 TEST(BreakOverlay, aHintThatTookThePlaceOfAnotherStaysForItsOwnTime) {
@@ -136,12 +123,12 @@ TEST(BreakOverlay, whatCanBePressedFollowsTheLevelAndTheLimits) {
 TEST(BreakOverlay, snoozesThatWereSpentAreSpokenOf) {
     Overlay overlay([](WumbleSettings& settings) { settings.snoozesPerBreak = Limit::count(1); });
     overlay.rest(6);
-    overlay.button("Snooze 1 min").click();
+    overlay.click("Snooze 1 min");
     EXPECT_FALSE(overlay.isOnBreak());
     overlay.driver.loop.advance(2);
     overlay.rest(6);
     EXPECT_EQ(overlay.view().content().footer, "No snoozes left · Press Esc twice to skip");
-    overlay.button("Skip this break").click();
+    overlay.click("Skip this break");
     EXPECT_FALSE(overlay.isOnBreak());
 }
 

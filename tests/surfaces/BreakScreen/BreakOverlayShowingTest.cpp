@@ -8,7 +8,7 @@ TEST(BreakOverlay, goesOnShowingItsWordsWhileItLeaves) {
     Overlay overlay([](WumbleSettings& settings) { settings.enforcement = Enforcement::casual; });
     overlay.rest(3);
     const BreakContent before = overlay.view().content();
-    overlay.button("Skip").click();
+    overlay.click("Skip");
     ASSERT_EQ(overlay.windows(), 2u);
     EXPECT_FALSE(overlay.controller.isUp());
     for (const RecordedSurface* surface : overlay.host.surfaces()) {
@@ -26,7 +26,7 @@ TEST(BreakOverlay, goesOnShowingItsWordsWhileItLeaves) {
 TEST(BreakOverlay, aNewBreakInTheMiddleOfTheExitComesAnew) {
     Overlay overlay([](WumbleSettings& settings) { settings.enforcement = Enforcement::casual; });
     overlay.rest(3);
-    overlay.button("Skip").click();
+    overlay.click("Skip");
     const auto leaving = overlay.controller.stage();
     overlay.driver.loop.advance(0.2);
     overlay.begin();
@@ -122,7 +122,7 @@ TEST(BreakOverlay, windowsThatWereReplacedOrLeftAreNotChecked) {
 
     Overlay left([](WumbleSettings& settings) { settings.enforcement = Enforcement::casual; });
     left.rest(1);
-    left.button("Skip").click();
+    left.click("Skip");
     left.driver.loop.advance(5);
     EXPECT_EQ(left.log(), "");
 }
@@ -130,7 +130,7 @@ TEST(BreakOverlay, windowsThatWereReplacedOrLeftAreNotChecked) {
 TEST(BreakOverlay, theLockButtonLocksARealBreak) {
     Overlay overlay;
     overlay.rest(2);
-    overlay.button("Lock screen").click();
+    overlay.click("Lock screen");
     EXPECT_EQ(overlay.driver.desktop.locks, 1);
     EXPECT_TRUE(overlay.isOnBreak());
     EXPECT_FALSE(overlay.other().content().showsLock);
@@ -157,18 +157,6 @@ TEST(BreakOverlay, withReducedMotionTheRevealIsThereAtOnce) {
     ASSERT_TRUE(reveal && reveal->grew);
     EXPECT_EQ(reveal->beats(reveal->startedAt),
               (RevealBeats{.token = reveal->token, .popped = true, .tagged = true}));
-}
-
-TEST(BreakOverlay, aFadingThingIsDrawnAsOne) {
-    Overlay overlay;
-    overlay.rest(0.5);
-    overlay.view().frame();
-    auto& button = overlay.button("Snooze 1 min");
-    EXPECT_EQ(fadingOf(button), 0) << "its words come at 0.54";
-    overlay.driver.loop.advance(1);
-    overlay.view().frame();
-    EXPECT_EQ(fadingOf(button), 1);
-    EXPECT_TRUE(overlay.view().grab().toImage().pixelColor(720, 450).isValid());
 }
 
 } // namespace

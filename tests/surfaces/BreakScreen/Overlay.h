@@ -3,10 +3,10 @@
 #include "Quietlark/Surfaces/BreakScreen/BreakOverlayController.h"
 
 #include "Quietlark/Surfaces/BreakScreen/BreakView.h"
-#include "Quietlark/Surfaces/Fading.h"
 #include "WumbleCore/Storage/Files.h"
 #include "tests/app/ModelDriver.h"
 #include "tests/support/RecordingSurfaceHost.h"
+#include "tests/surfaces/Buttons.h"
 
 #include <QCoreApplication>
 
@@ -66,23 +66,15 @@ struct Overlay {
         }
         return titles;
     }
-    QAbstractButton& button(const char* name) {
-        for (auto* button : view().findChildren<QAbstractButton*>()) {
-            if (button->isVisibleTo(&view()) && button->accessibleName() == QLatin1String(name)) {
-                return *button;
-            }
-        }
-        throw std::logic_error("no such button");
-    }
+    void click(const char* name) { test::press(view(), name); }
 
     ModelDriver driver;
     RecordingSurfaceHost host;
-    fake::Windows windowSystem{driver.desktop};
-    fake::Lock lock{driver.desktop};
+    Platform platform = platformOf(driver.desktop);
     QProperty<Appearance> appearance;
-    SurfaceContext context{driver.model(), driver.loop,           host,
-                           windowSystem,   &driver.accessibility, appearance};
-    BreakOverlayController controller{context, &lock};
+    SurfaceContext context{driver.model(),    driver.loop,           host,
+                           *platform.windows, &driver.accessibility, appearance};
+    BreakOverlayController controller{context, platform.screenLock.get()};
 };
 
 using Titles = std::vector<std::string>;

@@ -23,16 +23,6 @@ struct CountdownControllerTest : NotesFixture {
     CountdownController controller{context};
 };
 
-TEST_F(CountdownControllerTest, thePillStandsBesideThePointerAndLetsClicksThrough) {
-    host.setScreens({RecordingSurfaceHost::laptop(), RecordingSurfaceHost::desk()});
-    host.pointerPlace = QPointF(2000, 500);
-    controller.show();
-    RecordedSurface& pill = *host.top("countdown");
-    EXPECT_EQ(pill.frame(), QRectF(2004, 484, 272, 100));
-    EXPECT_TRUE(pill.isMapped());
-    EXPECT_FALSE(pill.takesPointer());
-}
-
 TEST_F(CountdownControllerTest, withoutAPointerItStandsAtTheTop) {
     host.pointerPlace.reset();
     controller.show();

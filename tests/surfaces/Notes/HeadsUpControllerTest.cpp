@@ -93,14 +93,6 @@ TEST_F(HeadsUpControllerTest, aPressedSnoozeTurnsTheCardIntoItsAnswer) {
     EXPECT_TRUE(host.surfaces().empty());
 }
 
-TEST_F(HeadsUpControllerTest, startingTheBreakSendsTheCardAway) {
-    RecordedSurface& card = awaitCard();
-    button(card, "Break now")->click();
-    EXPECT_TRUE(std::holds_alternative<wumble::phase::OnBreak>(driver.state().phase.value()));
-    driver.loop.advance(0.5);
-    EXPECT_TRUE(host.surfaces().empty());
-}
-
 TEST_F(HeadsUpControllerTest, whatLeavesKeepsItsWords) {
     driver.model().update([](auto& settings) { settings.allowSkipInAdvance = true; });
     for (const char* press : {"Skip", "Break now"}) {
@@ -145,7 +137,7 @@ struct GreetingTest : HeadsUpControllerTest {
         wumble::Storage(driver.folder.path()).save(life);
         AppModel& model = driver.launch();
         relaunched.emplace(
-            SurfaceContext{model, driver.loop, host, windows, &driver.accessibility, appearance});
+            SurfaceContext{model, driver.loop, host, *windows, &driver.accessibility, appearance});
         model.install({.headsUp = &*relaunched});
     }
     std::optional<HeadsUpController> relaunched;

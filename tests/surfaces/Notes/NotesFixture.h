@@ -4,8 +4,8 @@
 #include "Quietlark/Theme/AppearanceScope.h"
 #include "tests/app/ModelDriver.h"
 #include "tests/support/RecordingSurfaceHost.h"
+#include "tests/surfaces/Buttons.h"
 
-#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QEnterEvent>
 
@@ -18,9 +18,9 @@ struct NotesFixture : testing::Test {
 
     ModelDriver driver;
     RecordingSurfaceHost host;
-    fake::Windows windows{driver.desktop};
+    const std::unique_ptr<WindowSystem> windows = platformOf(driver.desktop).windows;
     QProperty<Appearance> appearance;
-    SurfaceContext context{driver.model(), driver.loop, host, windows, &driver.accessibility, appearance};
+    SurfaceContext context{driver.model(), driver.loop, host, *windows, &driver.accessibility, appearance};
 
     /// Lets the day go on until the model shows such a surface.
     RecordedSurface& await(std::string_view identifier) {
@@ -41,25 +41,10 @@ struct NotesFixture : testing::Test {
         return told;
     }
 
-    /// The button of that accessible name; none: null.
-    static QAbstractButton* button(RecordedSurface& surface, const QString& name) {
-        for (auto* button : surface.view().findChildren<QAbstractButton*>()) {
-            if (button->accessibleName() == name && !button->isHidden()) {
-                return button;
-            }
-        }
-        return nullptr;
+    static QAbstractButton* button(RecordedSurface& surface, const std::string& name) {
+        return buttonIn(surface.view(), name);
     }
-
-    static Told buttons(RecordedSurface& surface) {
-        Told names;
-        for (auto* button : surface.view().findChildren<QAbstractButton*>()) {
-            if (!button->isHidden()) {
-                names.push_back(button->accessibleName().toStdString());
-            }
-        }
-        return names;
-    }
+    static Told buttons(RecordedSurface& surface) { return buttonsIn(surface.view()); }
 
     /// The pointer comes onto a view, or goes.
     static void hover(QWidget& view, bool inside) {

@@ -25,9 +25,9 @@ protected:
 
     ModelDriver driver;
     RecordingSurfaceHost host{{RecordingSurfaceHost::laptop(), RecordingSurfaceHost::desk()}};
-    fake::Windows windows{driver.desktop};
+    const std::unique_ptr<WindowSystem> windows = platformOf(driver.desktop).windows;
     QProperty<Appearance> appearance;
-    SurfaceContext context{driver.model(), driver.loop, host, windows, nullptr, appearance};
+    SurfaceContext context{driver.model(), driver.loop, host, *windows, nullptr, appearance};
     NudgeCards nudges{context};
     ToastController toasts{context,
                            [this](const Toast& toast, const Screen& screen, Card* old,

@@ -4,6 +4,7 @@
 #include "tests/app/ModelDriver.h"
 #include "tests/support/Pets.h"
 #include "tests/support/Records.h"
+#include "tests/surfaces/Buttons.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -81,21 +82,13 @@ TEST(CrewInSettings, theRecapThatWaitsIsShownThereAndIsSeenThen) {
     driver.launch();
     QProperty<Appearance> appearance;
     SettingsWindow window(driver.model(), nullptr, appearance);
-    const auto shows = [&](const char* words) {
-        for (const auto* widget : window.window().findChildren<QWidget*>()) {
-            if (widget->accessibleName() == QLatin1String(words)) {
-                return true;
-            }
-        }
-        return false;
-    };
     const auto waiting = driver.model().unseenRecap();
     ASSERT_TRUE(waiting);
     window.presentCrew({waiting->period, waiting->start});
     EXPECT_NE(driver.model().unseenRecap(), waiting);
-    EXPECT_TRUE(shows("You met 2 Wumbles last month, and 1 grew all the way. "
-                      "One stayed a soft little clump, and that's fine too."));
-    EXPECT_TRUE(shows("1 break taken"));
+    EXPECT_TRUE(shows(window.window(), "You met 2 Wumbles last month, and 1 grew all the way. "
+                                       "One stayed a soft little clump, and that's fine too."));
+    EXPECT_TRUE(shows(window.window(), "1 break taken"));
 }
 
 } // namespace

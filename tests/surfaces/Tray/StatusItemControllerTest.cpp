@@ -4,10 +4,7 @@
 #include "tests/app/ModelDriver.h"
 #include "tests/support/RecordingSurfaceHost.h"
 #include "tests/support/RecordingTrayItem.h"
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QKeyEvent>
+#include "tests/surfaces/Buttons.h"
 
 #include <gmock/gmock.h>
 
@@ -39,40 +36,18 @@ protected:
         return top != nullptr && top->isMapped() ? top : nullptr;
     }
 
-    std::vector<std::string> buttons() const {
-        std::vector<std::string> names;
-        for (const auto* button : popover()->view().findChildren<QAbstractButton*>()) {
-            if (button->isVisibleTo(&popover()->view())) {
-                names.push_back(button->accessibleName().toStdString());
-            }
-        }
-        return names;
-    }
-
-    void press(const std::string& name) const {
-        for (auto* button : popover()->view().findChildren<QAbstractButton*>()) {
-            if (button->isVisibleTo(&popover()->view()) && button->accessibleName().toStdString() == name) {
-                button->click();
-                return;
-            }
-        }
-        FAIL() << "no button " << name;
-    }
-
-    void key(Qt::Key code) const {
-        QKeyEvent event(QEvent::KeyPress, code, Qt::NoModifier);
-        QApplication::sendEvent(&popover()->view(), &event);
-    }
+    std::vector<std::string> buttons() const { return buttonsIn(popover()->view()); }
+    void press(const std::string& name) const { test::press(popover()->view(), name); }
 
     ModelDriver driver;
     RecordingSurfaceHost host;
     RecordingTrayItem tray;
     QProperty<Appearance> appearance;
-    fake::Windows windows{driver.desktop};
+    const std::unique_ptr<WindowSystem> windows = platformOf(driver.desktop).windows;
     int settingsOpened = 0;
     int quits = 0;
     StatusItemController controller{
-        {driver.model(), driver.loop, host, windows, &driver.accessibility, appearance},
+        {driver.model(), driver.loop, host, *windows, &driver.accessibility, appearance},
         tray,
         {.openSettings = [this] { ++settingsOpened; }, .quit = [this] { ++quits; }}};
 };
@@ -120,16 +95,6 @@ TEST_F(StatusItemControllerTest, theClickThatClosedItFromOutsideDoesNotReopenIt)
     EXPECT_NE(popover(), nullptr);
     host.pressOutside();
     host.pressOutside();
-    EXPECT_EQ(popover(), nullptr);
-}
-
-TEST_F(StatusItemControllerTest, openedWithoutAPointerItTakesTheKeysAndEscClosesIt) {
-    tray.shown = false;
-    controller.toggle(std::nullopt);
-    ASSERT_NE(popover(), nullptr);
-    EXPECT_EQ(popover()->style.keyboard, Keyboard::whole);
-    EXPECT_NEAR(popover()->frame().right(), RecordingSurfaceHost::laptop().visibleFrame.right(), 10);
-    key(Qt::Key_Escape);
     EXPECT_EQ(popover(), nullptr);
 }
 

@@ -1,8 +1,7 @@
 #include "Quietlark/Welcome/WelcomeWindow.h"
 
 #include "tests/app/ModelDriver.h"
-
-#include <QAbstractButton>
+#include "tests/surfaces/Buttons.h"
 
 #include <gmock/gmock.h>
 
@@ -11,7 +10,6 @@ namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
-using testing::Not;
 
 /// A person at the first start of all.
 class WelcomeTest : public testing::Test {
@@ -27,20 +25,7 @@ protected:
         welcome->present();
     }
 
-    QAbstractButton* button(const std::string& name) {
-        for (auto* candidate : welcome->window().findChildren<QAbstractButton*>()) {
-            if (candidate->accessibleName().toStdString() == name && candidate->isVisible()) {
-                return candidate;
-            }
-        }
-        return nullptr;
-    }
-
-    void press(const std::string& name) {
-        QAbstractButton* found = button(name);
-        ASSERT_NE(found, nullptr) << name;
-        found->click();
-    }
+    void press(const std::string& name) { test::press(welcome->window(), name); }
 
     bool isWelcomed() { return driver.state().life.value().welcomed.value_or(false); }
     bool isStopped() { return std::holds_alternative<wumble::phase::Stopped>(driver.state().phase.value()); }
@@ -61,49 +46,16 @@ TEST_F(WelcomeTest, startingWithoutAChoiceKeepsTheSettingsAndBegins) {
     EXPECT_THAT(driver.told(), Contains(testing::HasSubstr("Wumble's on")));
 }
 
-TEST_F(WelcomeTest, whatWasPickedBecomesTheRhythm) {
-    press("every 30 min");
-    press("customize");
-    press("1 min");
-    press("10 min");
-    press("2");
-    press("Start breaks");
-    EXPECT_EQ(settings().workInterval, 1800);
-    EXPECT_EQ(settings().moveInterval, 5400) << "after as many quick breaks as before";
-    EXPECT_EQ(settings().shortBreakDuration, 60);
-    EXPECT_EQ(settings().longBreakDuration, 600);
-    EXPECT_EQ(settings().nudgesBetween, 2);
-}
-
-TEST_F(WelcomeTest, aPreviewDoesNotEndTheWelcome) {
-    press("Preview a break");
-    const auto& phase = driver.state().phase.value();
-    ASSERT_TRUE(std::holds_alternative<wumble::phase::OnBreak>(phase));
-    EXPECT_TRUE(std::get<wumble::phase::OnBreak>(phase).activeBreak.isPreview());
-    driver.run(30);
-    EXPECT_TRUE(isStopped());
-    EXPECT_FALSE(isWelcomed());
-    EXPECT_TRUE(welcome->isOpen());
-}
-
 TEST_F(WelcomeTest, theLoginSwitchSaysWhatStandsInItsWay) {
     driver.loginItem.refusal = "Open at login only works for the copy of Quietlark in Applications.";
     press("Open Quietlark when I log in");
-    EXPECT_FALSE(button("Open Quietlark when I log in")->isChecked());
-    const auto shows = [&](const std::string& words) {
-        for (const auto* widget : welcome->window().findChildren<QWidget*>()) {
-            if (widget->isVisible() && widget->accessibleName().toStdString() == words) {
-                return true;
-            }
-        }
-        return false;
-    };
-    EXPECT_TRUE(shows(*driver.loginItem.refusal));
+    EXPECT_FALSE(buttonIn(welcome->window(), "Open Quietlark when I log in")->isChecked());
+    EXPECT_TRUE(shows(welcome->window(), *driver.loginItem.refusal));
     const std::string refusal = *driver.loginItem.refusal;
     driver.loginItem.refusal.reset();
     press("Open Quietlark when I log in");
     EXPECT_TRUE(driver.loginItem.enabled);
-    EXPECT_FALSE(shows(refusal));
+    EXPECT_FALSE(shows(welcome->window(), refusal));
     press("Start breaks");
     EXPECT_TRUE(driver.loginItem.enabled);
 }

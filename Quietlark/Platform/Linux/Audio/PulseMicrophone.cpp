@@ -107,17 +107,10 @@ PulseMicrophone::~PulseMicrophone() {
     }
 }
 
-bool PulseMicrophone::ready() const {
-    const bool isLate = firstRefresh_ && refreshed_ - *firstRefresh_ >= longestFirstAnswer;
-    return mainLoop_ == nullptr || hasAnswered_ || isLate;
-}
+bool PulseMicrophone::ready() const { return mainLoop_ == nullptr || patience_.isOver(); }
 
 void PulseMicrophone::refresh(double uptime) {
-    refreshed_ = uptime;
-    firstRefresh_ = firstRefresh_.value_or(uptime);
-    const bool isTime = !lastConnection_ || uptime - *lastConnection_ >= secondsBetweenConnections;
-    if (mainLoop_ != nullptr && context_ == nullptr && isTime) {
-        lastConnection_ = uptime;
+    if (patience_.wantsConnection(uptime, mainLoop_ != nullptr && context_ == nullptr)) {
         connect();
     }
 }
@@ -129,7 +122,7 @@ void PulseMicrophone::connect() {
     pa_context_set_state_callback(context_, Callbacks::state, this);
     pa_context_set_subscribe_callback(context_, Callbacks::event, this);
     if (pa_context_connect(context_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) {
-        hasAnswered_ = true;
+        patience_.noteAnswer();
         disconnect();
     }
 }
@@ -150,7 +143,7 @@ void PulseMicrophone::contextChanged() {
     if (state == PA_CONTEXT_READY) {
         askForEverything();
     } else if (!PA_CONTEXT_IS_GOOD(state)) {
-        hasAnswered_ = true;
+        patience_.noteAnswer();
         disconnect();
     }
 }
@@ -227,7 +220,7 @@ void PulseMicrophone::told(const pa_source_output_info& stream) {
 
 void PulseMicrophone::listEnded() {
     if (--listsAwaited_ == 0) {
-        hasAnswered_ = true;
+        patience_.noteAnswer();
         findApps();
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Quietlark/Platform/Linux/Audio/Recordings.h"
+#include "Quietlark/Platform/Linux/ServerPatience.h"
 #include "Quietlark/Platform/Microphone.h"
 
 #include <filesystem>
@@ -17,12 +18,6 @@ namespace quietlark {
 /// is looked for again every few seconds, and never started.
 class PulseMicrophone final : public Microphone {
 public:
-    static constexpr double secondsBetweenConnections = 3;
-
-    /// How long a server that has taken the connection may keep its first answer before the program goes on
-    /// without it.
-    static constexpr double longestFirstAnswer = 2;
-
     /// `identity` must outlive it. `soundFolder` is the kernel's.
     explicit PulseMicrophone(AppIdentity& identity, std::filesystem::path soundFolder = "/proc/asound");
     ~PulseMicrophone() override;
@@ -54,11 +49,8 @@ private:
     pa_glib_mainloop* mainLoop_ =
         nullptr; ///< absent where the event loop isn't the one that the library knows
     pa_context* context_ = nullptr;
-    std::optional<double> firstRefresh_;   ///< uptime
-    std::optional<double> lastConnection_; ///< uptime
-    double refreshed_ = 0;                 ///< uptime
-    bool hasAnswered_ = false;             ///< or refused
-    int listsAwaited_ = 0;                 ///< nothing is known before all have come
+    ServerPatience patience_;
+    int listsAwaited_ = 0; ///< nothing is known before all have come
     Recordings recordings_;
     std::optional<std::vector<AppRef>> apps_;
 };

@@ -1,5 +1,7 @@
 #include "Quietlark/Platform/Linux/DBus/Bus.h"
 
+#include "Quietlark/Platform/Linux/DBus/BusGreeting.h"
+
 #include <QCoreApplication>
 #include <QDBusPendingCall>
 #include <QFileInfo>
@@ -29,7 +31,8 @@ QString nextConnectionName() {
 } // namespace
 
 /// A daemon that doesn't answer its greeting holds whoever connects for as long as it likes, so that is done
-/// on a thread of its own.
+/// on a thread of its own. Qt has one thread for the greetings of all buses, those of its own accessibility among
+/// them: it is told only of a bus that answers.
 struct Bus::Attempt {
     std::mutex mutex;
     std::condition_variable changed;
@@ -78,7 +81,9 @@ void Bus::beginAttempt() {
     attempt_ = std::make_shared<Attempt>();
     attempt_->bus = this;
     std::thread([attempt = attempt_, address = address_, loop = QCoreApplication::instance()] {
-        const QDBusConnection made = QDBusConnection::connectToBus(address, nextConnectionName());
+        const QDBusConnection made = BusGreeting::isAnswered(address)
+                                         ? QDBusConnection::connectToBus(address, nextConnectionName())
+                                         : noConnection();
         {
             const std::scoped_lock lock(attempt->mutex);
             attempt->result = made;

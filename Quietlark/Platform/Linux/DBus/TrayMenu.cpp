@@ -101,7 +101,7 @@ MenuItemLayout TrayMenu::layout(int id, int depth) const {
 }
 
 QVariantList TrayMenu::groupProperties(const QVariant& wanted) const {
-    QList<int> ids = qdbus_cast<QList<int>>(wanted);
+    auto ids = qdbus_cast<QList<int>>(wanted);
     if (ids.isEmpty()) {
         for (const auto& [id, item] : items_) {
             ids.append(id);

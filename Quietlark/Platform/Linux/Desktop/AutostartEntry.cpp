@@ -108,7 +108,12 @@ std::optional<std::string> AutostartEntry::set(bool on) {
     std::filesystem::create_directories(file_.parent_path(), failed);
     std::ofstream stream(file_, std::ios::trunc);
     stream << contents() << std::flush;
-    return stream ? std::nullopt : std::optional<std::string>(notWritten);
+    if (stream) {
+        return std::nullopt;
+    }
+    // Half an entry starts nothing, and would look like a whole one.
+    std::filesystem::remove(file_, failed);
+    return notWritten;
 }
 
 } // namespace quietlark

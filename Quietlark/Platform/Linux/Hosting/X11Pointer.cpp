@@ -33,7 +33,8 @@ void X11Pointer::ask() {
 void X11Pointer::take(xcb_query_pointer_reply_t* reply) {
     const std::unique_ptr<xcb_query_pointer_reply_t, X11Free> owned(reply);
     asked_.reset();
-    last_ = reply && reply->same_screen ? std::optional(QPoint(reply->root_x, reply->root_y)) : std::nullopt;
+    last_ =
+        reply && reply->same_screen != 0 ? std::optional(QPoint(reply->root_x, reply->root_y)) : std::nullopt;
 }
 
 std::optional<QPoint> X11Pointer::pixels() {
@@ -47,7 +48,7 @@ std::optional<QPoint> X11Pointer::pixels() {
     }
     void* reply = nullptr;
     xcb_generic_error_t* error = nullptr;
-    if (xcb_poll_for_reply(connection_, asked_->sequence, &reply, &error)) {
+    if (xcb_poll_for_reply(connection_, asked_->sequence, &reply, &error) != 0) {
         const std::unique_ptr<xcb_generic_error_t, X11Free> ownedError(error);
         take(static_cast<xcb_query_pointer_reply_t*>(reply));
         ask();

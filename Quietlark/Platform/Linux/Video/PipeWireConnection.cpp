@@ -160,24 +160,17 @@ PipeWireConnection::~PipeWireConnection() {
 }
 
 void PipeWireConnection::refresh(double uptime) {
-    refreshed_ = uptime;
-    firstRefresh_ = firstRefresh_.value_or(uptime);
-    const bool isTime = !lastConnection_ || uptime - *lastConnection_ >= secondsBetweenConnections;
-    if (context_ != nullptr && core_ == nullptr && isTime) {
-        lastConnection_ = uptime;
+    if (patience_.wantsConnection(uptime, context_ != nullptr && core_ == nullptr)) {
         connect();
     }
 }
 
-bool PipeWireConnection::ready() const {
-    const bool isLate = firstRefresh_ && refreshed_ - *firstRefresh_ >= longestFirstAnswer;
-    return context_ == nullptr || hasAnswered_ || isLate;
-}
+bool PipeWireConnection::ready() const { return context_ == nullptr || patience_.isOver(); }
 
 void PipeWireConnection::connect() {
     core_ = pw_context_connect(context_, nullptr, 0);
     if (core_ == nullptr) {
-        hasAnswered_ = true;
+        patience_.noteAnswer();
         return;
     }
     events_ = std::make_unique<Events>();
@@ -205,7 +198,7 @@ void PipeWireConnection::disconnect() {
 void PipeWireConnection::iterate() {
     pw_loop_iterate(loop_, 0);
     if (isLost_) {
-        hasAnswered_ = true;
+        patience_.noteAnswer();
         disconnect();
         isChanged_ = true;
     }
@@ -256,7 +249,7 @@ void PipeWireConnection::synchronized(int sequence) {
         described_ = pw_core_sync(core_, PW_ID_CORE, sequence);
     } else if (sequence == described_) {
         isKnown_ = true;
-        hasAnswered_ = true;
+        patience_.noteAnswer();
         isChanged_ = true;
     }
 }

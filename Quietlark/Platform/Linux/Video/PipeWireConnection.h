@@ -1,10 +1,10 @@
 #pragma once
 
+#include "Quietlark/Platform/Linux/ServerPatience.h"
 #include "Quietlark/Platform/Linux/Video/VideoGraph.h"
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 class QSocketNotifier;
 struct pw_context;
@@ -18,12 +18,6 @@ namespace quietlark {
 /// for again every few seconds; one that has stopped answering is never waited for.
 class PipeWireConnection {
 public:
-    static constexpr double secondsBetweenConnections = 3;
-
-    /// How long a daemon that has taken the connection may keep its first answer before the program goes on
-    /// without it.
-    static constexpr double longestFirstAnswer = 2;
-
     /// `changed` is called on the main thread after each change of `graph` or `isConnected`.
     explicit PipeWireConnection(std::function<void()> changed);
     ~PipeWireConnection();
@@ -62,10 +56,7 @@ private:
     pw_registry* registry_ = nullptr;
     std::unique_ptr<Events> events_;
     std::map<std::uint32_t, std::unique_ptr<Bound>> bound_;
-    std::optional<double> firstRefresh_;   ///< uptime
-    std::optional<double> lastConnection_; ///< uptime
-    double refreshed_ = 0;                 ///< uptime
-    bool hasAnswered_ = false;             ///< or can't be reached
+    ServerPatience patience_;
     bool isLost_ = false;
     bool isChanged_ = false;
     bool isKnown_ = false;

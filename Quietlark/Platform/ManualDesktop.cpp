@@ -1,68 +1,16 @@
-#pragma once
-
-#include "Quietlark/Platform/Platform.h"
-#include "tests/support/RecordingTrayItem.h"
+#include "Quietlark/Platform/ManualDesktop.h"
 
 #include <algorithm>
-#include <map>
 #include <memory>
-#include <string>
-#include <vector>
+#include <utility>
 
-namespace quietlark::test {
+namespace quietlark {
 
-/// What the desktop says, set by hand.
-struct Desktop {
-    std::optional<double> idleSeconds = 0;
-    std::optional<double> secondsSinceKeyDown;
-    std::optional<double> secondsSinceLeftMouseDown;
-    std::optional<double> secondsSinceRightMouseDown;
-    bool leftButtonHeld = false;
-    bool rightButtonHeld = false;
-
-    SessionState session;
-    std::function<void()> sessionChanged;
-
-    std::optional<AppRef> frontmost;
-    std::vector<AppRef> running;
-    std::vector<std::string> processes;
-    std::map<int, std::string> executables;
-    std::map<int, AppInspection> inspections;
-    int inspectionCount = 0;
-    bool frontmostFillsAScreen = false;
-    std::optional<AppWindow> frontWindow;
-    std::vector<AppWindow> activated;
-
-    std::optional<std::vector<AppRef>> recordingApps = std::vector<AppRef>{};
-    bool physicalMicrophoneRunning = false;
-    bool cameraInUse = false;
-    std::optional<bool> screenWatched = false;
-    std::optional<std::string> captureLines; ///< of the look back
-    std::vector<SleepHolder> sleepHolders;
-
-    std::vector<std::string> assertions; ///< the reasons of those that were taken
-    bool assertionHeld = false;
-    int locks = 0;
-    std::function<void()> anotherCopyStarted;
-    std::function<void()> activatedByPerson;
-    std::function<void()> sessionEnding;
-
-    DesktopLook look;
-    std::vector<std::string> announcements;
-
-    void setSession(const SessionState& state) {
-        session = state;
-        if (sessionChanged) {
-            sessionChanged();
-        }
-    }
-};
-
-namespace fake {
+namespace {
 
 template <class Interface> struct Answering : Interface {
-    explicit Answering(Desktop& shown) : desktop(shown) {}
-    Desktop& desktop;
+    explicit Answering(ManualDesktop& shown) : desktop(shown) {}
+    ManualDesktop& desktop;
 };
 
 template <class Interface> struct AnsweringSource : Answering<Interface> {
@@ -100,7 +48,7 @@ struct Windows final : AnsweringSource<WindowSystem> {
     void activate(const AppWindow& window) override { desktop.activated.push_back(window); }
 };
 
-struct Apps final : Answering<Applications> {
+struct Programs final : Answering<Applications> {
     using Answering::Answering;
     std::optional<AppRef> frontmost() override { return desktop.frontmost; }
     std::vector<AppRef> running() override { return desktop.running; }
@@ -118,25 +66,25 @@ struct Apps final : Answering<Applications> {
     bool frontmostFillsAScreen() override { return desktop.frontmostFillsAScreen; }
 };
 
-struct Mic final : AnsweringSource<Microphone> {
+struct Recordings final : AnsweringSource<Microphone> {
     using AnsweringSource::AnsweringSource;
     std::optional<std::vector<AppRef>> recordingApps() const override { return desktop.recordingApps; }
     bool physicalMicrophoneRunning() const override { return desktop.physicalMicrophoneRunning; }
 };
 
-struct Cam final : AnsweringSource<Camera> {
+struct Pictures final : AnsweringSource<Camera> {
     using AnsweringSource::AnsweringSource;
     bool inUse() const override { return desktop.cameraInUse; }
 };
 
-struct Watch final : AnsweringSource<ScreenWatch> {
+struct Watchers final : AnsweringSource<ScreenWatch> {
     using AnsweringSource::AnsweringSource;
     std::optional<bool> isWatched() const override { return desktop.screenWatched; }
 };
 
 struct Log final : Answering<CaptureLogRunner> {
     using Answering::Answering;
-    bool launch(Received, Ended) override { return true; }
+    bool launch(Received, Ended) override { return desktop.captureLines.has_value(); }
     std::optional<std::string> lookBack() override { return desktop.captureLines; }
     void terminate() override {}
 };
@@ -160,34 +108,31 @@ struct Lock final : Answering<ScreenLock> {
     void lockNow() override { ++desktop.locks; }
 };
 
-struct Notice final : Answering<CopyNotice> {
-    using Answering::Answering;
+struct NoNotice final : CopyNotice {
     void postAnotherCopyStarted(const std::string&) override {}
-    void observeAnotherCopyStarted(const std::string&, std::function<void()> started) override {
-        desktop.anotherCopyStarted = std::move(started);
-    }
-    void observeActivation(std::function<void()> activated) override {
-        desktop.activatedByPerson = std::move(activated);
-    }
-    void observeSessionEnd(std::function<void()> ending) override {
-        desktop.sessionEnding = std::move(ending);
-    }
+    void observeAnotherCopyStarted(const std::string&, std::function<void()>) override {}
+    void observeActivation(std::function<void()>) override {}
+    void observeSessionEnd(std::function<void()>) override {}
 };
 
-struct Look final : Answering<DesktopLookSource> {
-    using Answering::Answering;
-    const DesktopLook& look() const override { return desktop.look; }
-    void observe(std::function<void()>) override {}
-};
+} // namespace
 
-struct Voice final : Answering<Announcer> {
-    using Answering::Answering;
-    void announce(const std::string& sentence) override { desktop.announcements.push_back(sentence); }
-};
+Platform platformOf(ManualDesktop& desktop) {
+    Platform platform;
+    platform.input = std::make_unique<Input>(desktop);
+    platform.session = std::make_unique<Session>(desktop);
+    platform.windows = std::make_unique<Windows>(desktop);
+    platform.applications = std::make_unique<Programs>(desktop);
+    platform.microphone = std::make_unique<Recordings>(desktop);
+    platform.camera = std::make_unique<Pictures>(desktop);
+    platform.screenWatch = std::make_unique<Watchers>(desktop);
+    platform.captureLogRunner = std::make_unique<Log>(desktop);
+    platform.sleepHolders = std::make_unique<Holders>(desktop);
+    platform.sleepAssertion = std::make_unique<Assertion>(desktop);
+    platform.screenLock = std::make_unique<Lock>(desktop);
+    platform.copyNotice = std::make_unique<NoNotice>();
+    platform.processName = "quietlark";
+    return platform;
+}
 
-} // namespace fake
-
-/// A platform that says what stands in `desktop`, which must outlive it.
-Platform platformOf(Desktop& desktop);
-
-} // namespace quietlark::test
+} // namespace quietlark
