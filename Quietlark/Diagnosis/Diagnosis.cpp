@@ -25,6 +25,8 @@ namespace {
 /// A service that hasn't answered by then is told as one that doesn't know.
 constexpr double longestWaitForAnswers = 2;
 
+constexpr int questionsUntilAllAreKnown = 50;
+
 /// The machine as the detector sees it, without the application around it.
 class Observation {
 public:
@@ -35,6 +37,10 @@ public:
         const double started = loop_.uptime();
         while (!hasSettled() && loop_.uptime() - started < longestWaitForAnswers) {
             turn(0.01);
+        }
+        // Who runs is found out a little with each question, and a report asks only once more.
+        for (int question = 0; question < questionsUntilAllAreKnown; ++question) {
+            platform_.applications->running();
         }
     }
 

@@ -132,7 +132,7 @@ std::filesystem::path inSearchPath(const std::string& program) {
     std::istringstream folders(variable == nullptr ? "" : variable);
     std::error_code failed;
     for (std::string folder; std::getline(folders, folder, ':');) {
-        const auto path = std::filesystem::path(folder) / program;
+        auto path = std::filesystem::path(folder) / program;
         if (path.is_absolute() && std::filesystem::exists(path, failed)) {
             return path;
         }

@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <ranges>
 #include <set>
 #include <utility>
 
@@ -97,7 +96,8 @@ void LinuxApplications::findOutWhoTheyAre() {
     std::map<std::string_view, const AppRef*> byFile;
     const auto end = std::chrono::steady_clock::now() + longestFindingOut;
     // What matters now was mostly started lately.
-    for (auto& [pid, process] : processesSeen_ | std::views::reverse) {
+    for (auto seen = processesSeen_.rbegin(); seen != processesSeen_.rend(); ++seen) {
+        auto& [pid, process] = *seen;
         const bool isSameAsItsKind = LinuxAppIdentity::isToldByFile(process.executable);
         const auto kind = isSameAsItsKind ? byFile.find(process.executable) : byFile.end();
         if (!process.app && kind != byFile.end()) {
