@@ -1,6 +1,7 @@
 #include "Quietlark/Platform/Linux/DBus/Bus.h"
 
 #include "Quietlark/Platform/Linux/DBus/BusGreeting.h"
+#include "WumbleCore/Storage/FileDescriptor.h"
 
 #include <QCoreApplication>
 #include <QDBusPendingCall>
@@ -10,6 +11,7 @@
 #include <condition_variable>
 #include <mutex>
 #include <optional>
+#include <sys/eventfd.h>
 #include <thread>
 #include <utility>
 
@@ -18,6 +20,9 @@ namespace quietlark {
 namespace {
 
 constexpr double secondsBetweenAttempts = 5;
+
+/// A bus that said its first word may stand still before its second, and then nobody waits for that.
+constexpr double longestFarewell = 1;
 
 using Clock = std::chrono::steady_clock;
 
@@ -36,13 +41,44 @@ QString nextConnectionName() {
 struct Bus::Attempt {
     std::mutex mutex;
     std::condition_variable changed;
-    std::optional<QDBusConnection> result;
-    Bus* bus = nullptr; ///< who still waits for it; main thread only
+    std::optional<QDBusConnection> made; ///< absent where nobody answered
+    bool isOver = false;
+    bool isGivenUp = false;
+    wumble::FileDescriptor stop{::eventfd(0, EFD_CLOEXEC)}; ///< ends the wait for an answer
+    Bus* bus = nullptr;                                     ///< who still waits for it; main thread only
 
     bool waitFor(double seconds) {
         std::unique_lock lock(mutex);
-        return changed.wait_for(lock, std::chrono::duration<double>(seconds),
-                                [this] { return result.has_value(); });
+        return changed.wait_for(lock, std::chrono::duration<double>(seconds), [this] { return isOver; });
+    }
+
+    /// On its own thread. The main one is told only while it lasts.
+    void make(const QString& address, const std::function<void()>& arrive) {
+        std::optional<QDBusConnection> connection;
+        if (BusGreeting::isAnswered(address, stop.get())) {
+            connection = QDBusConnection::connectToBus(address, nextConnectionName());
+        }
+        const std::scoped_lock lock(mutex);
+        made = std::move(connection);
+        isOver = true;
+        if (!isGivenUp) {
+            QMetaObject::invokeMethod(QCoreApplication::instance(), arrive, Qt::QueuedConnection);
+        }
+        changed.notify_all();
+    }
+
+    /// What it made by then is let go. Qt may be on its way out after this.
+    void giveUp() {
+        {
+            const std::scoped_lock lock(mutex);
+            isGivenUp = true;
+        }
+        bus = nullptr;
+        ::eventfd_write(stop.get(), 1);
+        if (waitFor(longestFarewell) && made) {
+            QDBusConnection::disconnectFromBus(made->name());
+            made.reset();
+        }
     }
 };
 
@@ -56,7 +92,7 @@ Bus::Bus(QString address) : address_(std::move(address)), connection_(noConnecti
 
 Bus::~Bus() {
     if (attempt_) {
-        attempt_->bus = nullptr;
+        attempt_->giveUp();
     }
     if (connected_) {
         QDBusConnection::disconnectFromBus(connection_.name());
@@ -80,33 +116,28 @@ QString Bus::systemAddress() {
 void Bus::beginAttempt() {
     attempt_ = std::make_shared<Attempt>();
     attempt_->bus = this;
-    std::thread([attempt = attempt_, address = address_, loop = QCoreApplication::instance()] {
-        const QDBusConnection made = BusGreeting::isAnswered(address)
-                                         ? QDBusConnection::connectToBus(address, nextConnectionName())
-                                         : noConnection();
-        {
-            const std::scoped_lock lock(attempt->mutex);
-            attempt->result = made;
-        }
-        attempt->changed.notify_all();
-        const auto arrive = [attempt] {
+    std::thread([attempt = attempt_, address = address_] {
+        attempt->make(address, [attempt] {
             if (attempt->bus != nullptr) {
-                attempt->bus->take(*attempt->result);
+                attempt->bus->takeAttempt();
             }
-        };
-        QMetaObject::invokeMethod(loop, arrive, Qt::QueuedConnection);
+        });
     }).detach();
 }
 
-void Bus::take(const QDBusConnection& connection) {
+void Bus::takeAttempt() {
+    const auto made = std::exchange(attempt_->made, std::nullopt);
     attempt_->bus = nullptr;
     attempt_.reset();
     settled_ = true;
-    if (!connection.isConnected()) {
-        QDBusConnection::disconnectFromBus(connection.name());
+    if (!made) {
         return;
     }
-    connection_ = connection;
+    if (!made->isConnected()) {
+        QDBusConnection::disconnectFromBus(made->name());
+        return;
+    }
+    connection_ = *made;
     connected_ = true;
     for (Subscription& subscription : subscriptions_) {
         attach(subscription);
@@ -147,7 +178,7 @@ void Bus::refresh(double uptime) {
 
 bool Bus::waitUntilConnected(double seconds) {
     if (const auto attempt = attempt_; attempt && attempt->waitFor(seconds)) {
-        take(*attempt->result);
+        takeAttempt();
     }
     return connected_;
 }

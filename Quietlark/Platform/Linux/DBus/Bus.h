@@ -64,7 +64,7 @@ private:
     struct Attempt;
 
     void beginAttempt();
-    void take(const QDBusConnection& connection);
+    void takeAttempt();
     void lose();
     void tell(std::function<void()> Observer::*what);
     void attach(Subscription& subscription);

@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstring>
 #include <optional>
+#include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -36,7 +37,14 @@ std::optional<QByteArray> socketName(const QString& place) {
     return std::nullopt;
 }
 
-bool isSocketAnswered(const QByteArray& name) {
+/// Whether something can be read before it is time to stop.
+bool isReadable(int socket, int stop) {
+    std::array<pollfd, 2> watched{
+        {{.fd = socket, .events = POLLIN, .revents = 0}, {.fd = stop, .events = POLLIN, .revents = 0}}};
+    return ::poll(watched.data(), watched.size(), -1) > 0 && watched[1].revents == 0;
+}
+
+bool isSocketAnswered(const QByteArray& name, int stop) {
     sockaddr_un place{.sun_family = AF_UNIX, .sun_path = {}};
     if (name.size() >= static_cast<qsizetype>(sizeof place.sun_path)) {
         return false;
@@ -44,7 +52,7 @@ bool isSocketAnswered(const QByteArray& name) {
     std::ranges::copy(name, place.sun_path);
     const auto length =
         static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + static_cast<std::size_t>(name.size()));
-    const wumble::FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    const wumble::FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
     if (!socket.isOpen() || ::connect(socket.get(), reinterpret_cast<const sockaddr*>(&place), length) != 0) {
         return false;
     }
@@ -54,16 +62,16 @@ bool isSocketAnswered(const QByteArray& name) {
     std::array<char, 1> answer{};
     return ::send(socket.get(), words.data(), static_cast<std::size_t>(words.size()), MSG_NOSIGNAL) ==
                words.size() &&
-           ::recv(socket.get(), answer.data(), answer.size(), 0) > 0;
+           isReadable(socket.get(), stop) && ::recv(socket.get(), answer.data(), answer.size(), 0) > 0;
 }
 
 } // namespace
 
-bool isAnswered(const QString& address) {
+bool isAnswered(const QString& address, int stop) {
     const QStringList places = address.split(QLatin1Char(';'), Qt::SkipEmptyParts);
-    return std::ranges::any_of(places, [](const QString& place) {
+    return std::ranges::any_of(places, [stop](const QString& place) {
         const auto name = socketName(place);
-        return !name || isSocketAnswered(*name);
+        return !name || isSocketAnswered(*name, stop);
     });
 }
 

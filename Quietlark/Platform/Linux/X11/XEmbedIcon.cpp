@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <mutex>
 #include <thread>
 #include <utility>
 
@@ -29,7 +30,8 @@ QImage fitting(const std::vector<QImage>& pictures, int side) {
 } // namespace
 
 struct XEmbedIcon::Attempt {
-    XEmbedIcon* icon = nullptr; ///< who still waits for it; main thread only
+    std::mutex mutex;
+    XEmbedIcon* icon = nullptr; ///< who still waits for it; without one the main thread may be gone
     std::unique_ptr<XEmbedDock> made;
 };
 
@@ -51,14 +53,17 @@ void XEmbedIcon::look() {
     leave();
     attempt_ = std::make_shared<Attempt>();
     attempt_->icon = this;
-    std::thread([attempt = attempt_, display = display_, loop = QCoreApplication::instance()] {
+    std::thread([attempt = attempt_, display = display_] {
         attempt->made = XEmbedDock::make(display);
         const auto arrive = [attempt] {
             if (attempt->icon != nullptr) {
                 attempt->icon->take(std::move(attempt->made));
             }
         };
-        QMetaObject::invokeMethod(loop, arrive, Qt::QueuedConnection);
+        const std::scoped_lock lock(attempt->mutex);
+        if (attempt->icon != nullptr) {
+            QMetaObject::invokeMethod(QCoreApplication::instance(), arrive, Qt::QueuedConnection);
+        }
     }).detach();
 }
 
@@ -76,9 +81,9 @@ void XEmbedIcon::take(std::unique_ptr<XEmbedDock> dock) {
 }
 
 void XEmbedIcon::leave() {
-    if (attempt_) {
-        attempt_->icon = nullptr;
-        attempt_.reset();
+    if (const auto attempt = std::exchange(attempt_, nullptr)) {
+        const std::scoped_lock lock(attempt->mutex);
+        attempt->icon = nullptr;
     }
     if (arrivals_) {
         arrivals_->setEnabled(false);
