@@ -12,10 +12,10 @@ class Waits {
 public:
     void during(const std::function<void()>& work);
 
-    /// Milliseconds, of more than half of them at most. 0 without any.
+    /// Milliseconds that half of them don't exceed; 0 without any.
     double usual() const;
 
-    /// Milliseconds.
+    /// Milliseconds; 0 without any.
     double longest() const;
 
     /// Fails the test if a step waited as for somebody who stands still. A single wait may be longer than is usual:
